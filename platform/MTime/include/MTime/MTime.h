@@ -1,0 +1,39 @@
+/// @file
+/// The editor's time type.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include <MTime/Export.h>
+
+/// A point in time or a length of time, counted in units of one microsecond.
+class MTime
+{
+public:
+    static constexpr std::int64_t unitsPerSecond = 1'000'000;
+
+    constexpr MTime() = default; ///< zero
+    constexpr explicit MTime(std::int64_t units)
+        : m_units(units)
+    {
+    }
+
+    constexpr std::int64_t units() const { return m_units; }
+    constexpr double seconds() const { return static_cast<double>(m_units) / static_cast<double>(unitsPerSecond); }
+
+    /// For people: hours, minutes and seconds, such as "-0:01:02.500000".
+    MTIME_EXPORT std::string toString() const;
+
+    friend constexpr bool operator==(MTime a, MTime b) { return a.m_units == b.m_units; }
+    friend constexpr bool operator!=(MTime a, MTime b) { return a.m_units != b.m_units; }
+    friend constexpr bool operator<(MTime a, MTime b) { return a.m_units < b.m_units; }
+    friend constexpr bool operator>(MTime a, MTime b) { return a.m_units > b.m_units; }
+    friend constexpr bool operator<=(MTime a, MTime b) { return a.m_units <= b.m_units; }
+    friend constexpr bool operator>=(MTime a, MTime b) { return a.m_units >= b.m_units; }
+    friend constexpr MTime operator+(MTime a, MTime b) { return MTime(a.m_units + b.m_units); }
+    friend constexpr MTime operator-(MTime a, MTime b) { return MTime(a.m_units - b.m_units); }
+
+private:
+    std::int64_t m_units = 0;
+};
