@@ -21,10 +21,10 @@ public:
         : m_variable(variable)
     {}
 
-    void set(QString const & path)
+    void set(QString path)
     {
         std::lock_guard const lock(m_mutex);
-        m_path = path;
+        m_path.swap(path);
     }
 
     /// Empty where the host set nothing.
