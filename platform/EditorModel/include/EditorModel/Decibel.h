@@ -1,0 +1,48 @@
+/// @file
+/// Levels.
+#pragma once
+
+#include <EditorModel/Export.h>
+#include <EditorSerialization/Traversal.h>
+
+/// A level, kept as decibels, so that an archive loses nothing of it. A default level is 0 dB.
+class EDITORMODEL_EXPORT Decibel
+{
+public:
+    constexpr Decibel() = default;
+
+    static constexpr Decibel fromDbLevel(double decibels) { return Decibel(decibels); }
+    constexpr double dbLevel() const { return m_decibels; }
+
+    /// The level as an amplitude ratio, 10^(dB / 20): 1 at 0 dB, 0.5 near -6.02 dB.
+    double toRelativeLevel() const;
+
+    /// Exact.
+    friend constexpr bool operator==(Decibel a, Decibel b) { return a.m_decibels == b.m_decibels; }
+    friend constexpr bool operator!=(Decibel a, Decibel b) { return !(a == b); }
+
+private:
+    constexpr explicit Decibel(double decibels)
+        : m_decibels(decibels)
+    {
+    }
+
+    double m_decibels = 0;
+};
+
+constexpr Decibel operator""_dB(long double decibels)
+{
+    return Decibel::fromDbLevel(static_cast<double>(decibels));
+}
+constexpr Decibel operator""_dB(unsigned long long decibels)
+{
+    return Decibel::fromDbLevel(static_cast<double>(decibels));
+}
+
+/// In every archive a level is a double.
+template <> struct Serialize::PlainForm<Decibel>
+{
+    using Type = double;
+    static double get(Decibel level) { return level.dbLevel(); }
+    static void set(Decibel & level, double decibels) { level = Decibel::fromDbLevel(decibels); }
+};

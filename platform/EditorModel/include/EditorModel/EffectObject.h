@@ -1,0 +1,81 @@
+/// @file
+/// The base of every effect.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+
+#include <boost/serialization/extended_type_info.hpp>
+
+#include <EditorModel/Export.h>
+#include <EditorModel/Payload.h>
+#include <EditorModel/Resource.h>
+#include <EditorModel/Transform.h>
+
+#include <QString>
+
+namespace Effect {
+
+/// What an effect works on.
+enum class Type : std::int32_t { Video = 0, Audio = 1 };
+
+/// How an effect is carried out.
+enum class Impl : std::int32_t {
+    Descriptor = 0, ///< not by the render engine
+    Effect = 1,
+    Filter = 2
+};
+
+/// An effect: what it is, how strong it is, and what it refers to. Effects are plain values.
+class EDITORMODEL_EXPORT Object : public EditorCollection::Payload
+{
+public:
+    /// @param effectId  identifier of the effect's kind
+    /// @param group     identifier of its group, or the identifier again
+    Object(QString const & effectId, QString const & group);
+    Object(Object const &) = default;
+    Object(Object &&) = default;
+    Object & operator=(Object const &) = default;
+    Object & operator=(Object &&) = default;
+    ~Object() override;
+
+    QString tag{QLatin1String("")};
+    QString id;
+    QString groupId;
+    double intensity = 1.0; ///< strength, 1 being the whole effect
+    Resource::ID resource;
+    QString resourcePath{QLatin1String("")}; ///< of the resource's file
+    std::optional<Types::Range> range;       ///< the part of the clip that the effect covers; all of it when absent
+
+    QString const & mimeType() const override;
+    /// What tells the results of one processing from those of another: the identifier, unless a class says more.
+    virtual QString processingSettingsId() const;
+    virtual Type type() const = 0;
+    virtual Impl impl() const = 0;
+    virtual bool hasIntensity() const;
+    virtual bool isTwoInput() const;
+    virtual QString defaultTag() const;
+
+    static char const * NameInArchive() { return "Effect::Object"; }
+    std::string GetNameInArchive() const override;
+    void Serialize(Serialize::ISerializer & serializer) const override;
+    void Deserialize(Serialize::IDeserializer & deserializer) override;
+
+protected:
+    QString generateItemFindingId() const override;
+    QString generateLegacyItemFindingId() const override;
+
+private:
+    friend Serialize::Access;
+    template <class Archive> void serialize(Archive & archive);
+};
+
+} // namespace Effect
+
+template <> struct boost::serialization::guid_defined<Effect::Object> : boost::mpl::true_
+{
+};
+template <> struct boost::serialization::ext::guid_impl<Effect::Object>
+{
+    static char const * call() { return Effect::Object::NameInArchive(); }
+};

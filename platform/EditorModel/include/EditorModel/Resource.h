@@ -1,0 +1,136 @@
+/// @file
+/// The files that effects refer to, and the registry that finds them.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+
+#include <boost/serialization/level.hpp>
+#include <boost/serialization/tracking.hpp>
+
+#include <EditorModel/Export.h>
+#include <EditorSerialization/ISerializable.h>
+#include <MTime/MTime.h>
+
+#include <QByteArray>
+#include <QPixmap>
+#include <QString>
+
+namespace Resource {
+
+/// What a resource is.
+enum class Type : std::int32_t {
+    None = 0,
+    Video = 1,
+    Audio = 2,
+    Image = 3,
+    Blob = 4, ///< bytes that the editor does not look into: LUT and shader files
+};
+
+/// The name of a resource and its type. Two resources of different types may share a name.
+class EDITORMODEL_EXPORT ID : public Serialize::ISerializable
+{
+public:
+    ID();
+    ID(QString const & name, Type type);
+    ID(ID const &) = default;
+    ID(ID &&) = default;
+    ID & operator=(ID const &) = default;
+    ID & operator=(ID &&) = default;
+    ~ID() override;
+
+    QString const & name() const { return m_name; }
+    Type type() const { return m_type; }
+    /// Whether it can name a resource at all: it has a name and a type.
+    bool isValid() const { return !m_name.isEmpty() && m_type != Type::None; }
+
+    bool operator==(ID const & other) const { return m_type == other.m_type && m_name == other.m_name; }
+    bool operator!=(ID const & other) const { return !(*this == other); }
+    /// By name, then by type.
+    bool operator<(ID const & other) const;
+
+    static char const * NameInArchive() { return "Resource::ID"; }
+    std::string GetNameInArchive() const override;
+    void Serialize(Serialize::ISerializer & serializer) const override;
+    void Deserialize(Serialize::IDeserializer & deserializer) override;
+
+private:
+    friend Serialize::Access;
+    template <class Archive> void serialize(Archive & archive);
+
+    QString m_name{QLatin1String("")};
+    Type m_type = Type::None;
+};
+
+/// How a resource runs in time.
+struct EDITORMODEL_EXPORT Timing : public Serialize::ISerializable
+{
+    int loopCount = 0;
+    MTime start;
+    MTime length;
+    int flags = 0;
+
+    Timing();
+    Timing(Timing const &) = default;
+    Timing(Timing &&) = default;
+    Timing & operator=(Timing const &) = default;
+    Timing & operator=(Timing &&) = default;
+    ~Timing() override;
+
+    static char const * NameInArchive() { return "Resource::Timing"; }
+    std::string GetNameInArchive() const override;
+    void Serialize(Serialize::ISerializer & serializer) const override;
+    void Deserialize(Serialize::IDeserializer & deserializer) override;
+
+private:
+    friend Serialize::Access;
+    template <class Archive> void serialize(Archive & archive);
+};
+
+/// The bytes of a resource.
+struct Blob
+{
+    QByteArray data; ///< empty for what is missing or unreadable
+};
+
+/// The picture of a resource.
+struct Image
+{
+    std::shared_ptr<QPixmap const> pixmap; ///< null for what is missing or no picture
+};
+
+/// @name The registry
+/// One for the process, safe to call from any thread.
+/// @{
+
+/// Makes a file known under `id`. A later registration takes the place of an earlier one.
+/// @param path    of the file, read when it is asked for
+/// @param index   of the stream in the file
+/// @param length  zero when the resource has no length of its own
+EDITORMODEL_EXPORT void registerResource(
+    ID const & id, QString const & path, int index, MTime length, Timing const & timing);
+EDITORMODEL_EXPORT void unregisterResource(ID const & id);
+EDITORMODEL_EXPORT bool isResourceRegistered(ID const & id);
+
+/// The file registered under that name: as a blob, else under any other type. Empty when there is none.
+EDITORMODEL_EXPORT QString registeredPath(QString const & name);
+
+/// The bytes of the file registered under that name. Never null; the blob of what is missing, unreadable or larger
+/// than `maxBlobSize` is empty.
+/// @param error  if not null, told why the blob is empty
+EDITORMODEL_EXPORT std::unique_ptr<Blob> provideBlobResource(QString const & name, QString * error);
+
+/// The picture in the file registered under that name; null when nothing is registered.
+/// @param error  if not null, told why there is no picture
+EDITORMODEL_EXPORT std::unique_ptr<Image> provideImageResource(QString const & name, QString * error);
+
+inline constexpr std::int64_t maxBlobSize = std::int64_t(256) << 20; ///< bytes
+
+/// @}
+
+} // namespace Resource
+
+BOOST_CLASS_IMPLEMENTATION(Resource::ID, boost::serialization::object_serializable)
+BOOST_CLASS_TRACKING(Resource::ID, boost::serialization::track_never)
+BOOST_CLASS_IMPLEMENTATION(Resource::Timing, boost::serialization::object_serializable)
+BOOST_CLASS_TRACKING(Resource::Timing, boost::serialization::track_never)

@@ -1,0 +1,161 @@
+#include <EditorModel/Resource.h>
+
+#include <map>
+#include <mutex>
+#include <shared_mutex>
+#include <tuple>
+
+#include "Instantiate.h"
+#include "PlainForms.h"
+
+#include <QFile>
+#include <QImageReader>
+
+namespace Resource {
+
+using Serialize::field;
+
+namespace {
+
+struct Entry
+{
+    QString path;
+    int index = 0;
+    MTime length;
+    Timing timing;
+};
+
+struct Entries
+{
+    std::shared_mutex mutex;
+    std::map<ID, Entry> byId;
+};
+
+Entries & entries()
+{
+    static Entries entries;
+    return entries;
+}
+
+constexpr Type allTypes[] = {Type::Blob, Type::Image, Type::Video, Type::Audio, Type::None};
+
+/// The path registered under `name`, first under the types that come first in `types`.
+template <class Types> QString findPath(QString const & name, Types const & types)
+{
+    std::shared_lock const lock(entries().mutex);
+    for (Type const type : types) {
+        auto const found = entries().byId.find(ID(name, type));
+        if (found != entries().byId.end())
+            return found->second.path;
+    }
+    return {};
+}
+
+void tell(QString * error, QString const & text)
+{
+    if (error)
+        *error = text;
+}
+
+QByteArray readFile(QString const & path, QString * error)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        tell(error, path + QLatin1String(": ") + file.errorString());
+        return {};
+    }
+    if (file.isSequential() || file.size() > maxBlobSize) {
+        tell(error, path + QLatin1String(": no regular file of at most 256 MiB"));
+        return {};
+    }
+    return file.readAll();
+}
+
+} // namespace
+
+ID::ID() = default;
+
+ID::ID(QString const & name, Type type)
+    : m_name(name)
+    , m_type(type)
+{
+}
+
+ID::~ID() = default;
+
+bool ID::operator<(ID const & other) const
+{
+    return std::tie(m_name, m_type) < std::tie(other.m_name, other.m_type);
+}
+
+template <class Archive> void ID::serialize(Archive & archive)
+{
+    Serialize::fields(archive, field("name", m_name), field("type", m_type));
+}
+
+Timing::Timing() = default;
+
+Timing::~Timing() = default;
+
+template <class Archive> void Timing::serialize(Archive & archive)
+{
+    Serialize::fields(archive, field("loopCount", loopCount), field("start", start), field("length", length),
+        field("flags", flags));
+}
+
+EDITORMODEL_ARCHIVED(ID)
+EDITORMODEL_ARCHIVED(Timing)
+
+void registerResource(ID const & id, QString const & path, int index, MTime length, Timing const & timing)
+{
+    std::unique_lock const lock(entries().mutex);
+    entries().byId.insert_or_assign(id, Entry{path, index, length, timing});
+}
+
+void unregisterResource(ID const & id)
+{
+    std::unique_lock const lock(entries().mutex);
+    entries().byId.erase(id);
+}
+
+bool isResourceRegistered(ID const & id)
+{
+    std::shared_lock const lock(entries().mutex);
+    return entries().byId.count(id) != 0;
+}
+
+QString registeredPath(QString const & name)
+{
+    return findPath(name, allTypes);
+}
+
+std::unique_ptr<Blob> provideBlobResource(QString const & name, QString * error)
+{
+    auto blob = std::make_unique<Blob>();
+    QString const path = registeredPath(name);
+    if (path.isEmpty())
+        tell(error, QLatin1String("no resource is registered as \"") + name + QLatin1Char('"'));
+    else
+        blob->data = readFile(path, error);
+    return blob;
+}
+
+std::unique_ptr<Image> provideImageResource(QString const & name, QString * error)
+{
+    constexpr Type imageFirst[] = {Type::Image, Type::Blob, Type::Video, Type::Audio, Type::None};
+    QString const path = findPath(name, imageFirst);
+    if (path.isEmpty()) {
+        tell(error, QLatin1String("no resource is registered as \"") + name + QLatin1Char('"'));
+        return nullptr;
+    }
+    auto image = std::make_unique<Image>();
+    QImageReader reader(path);
+    QImage const picture = reader.read();
+    if (picture.isNull())
+        tell(error, path + QLatin1String(": ") + reader.errorString());
+    else
+        image->pixmap = std::make_shared<QPixmap const>(QPixmap::fromImage(picture));
+    return image;
+}
+
+} // namespace Resource

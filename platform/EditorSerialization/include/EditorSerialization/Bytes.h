@@ -1,0 +1,76 @@
+/// @file
+/// Plain values to and from a byte stream, in the machine's byte order. The reader believes nothing that it reads.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <streambuf>
+#include <string>
+
+#include <EditorSerialization/Export.h>
+
+#include <QString>
+
+namespace Serialize {
+
+/// Writes bytes; throws an `ArchiveError` with the framework's output stream error when the stream takes fewer.
+class EDITORSERIALIZATION_EXPORT ByteWriter
+{
+public:
+    explicit ByteWriter(std::streambuf & stream)
+        : m_stream(stream)
+    {
+    }
+
+    void write(void const * bytes, std::size_t count)
+    {
+        if (m_stream.sputn(static_cast<char const *>(bytes), static_cast<std::streamsize>(count)) !=
+            static_cast<std::streamsize>(count))
+            fail();
+    }
+    template <class T> void write(T const & value) { write(&value, sizeof value); }
+    void write(std::string const & text); ///< 64-bit count of bytes, then the bytes
+    void write(QString const & text);     ///< 32-bit count of UTF-16 units, or -1 for a null string, then the units
+
+private:
+    [[noreturn]] static void fail();
+
+    std::streambuf & m_stream;
+};
+
+/// Reads bytes; throws an `ArchiveError` with the framework's input stream error when the stream gives fewer.
+class EDITORSERIALIZATION_EXPORT ByteReader
+{
+public:
+    explicit ByteReader(std::streambuf & stream)
+        : m_stream(stream)
+    {
+    }
+
+    void read(void * bytes, std::size_t count)
+    {
+        std::streamsize const got = m_stream.sgetn(static_cast<char *>(bytes), static_cast<std::streamsize>(count));
+        m_offset += static_cast<std::uint64_t>(got);
+        if (got != static_cast<std::streamsize>(count))
+            failShort(count - static_cast<std::size_t>(got));
+    }
+    template <class T> void read(T & value) { read(&value, sizeof value); }
+    void read(bool & value); ///< one byte, 0 or 1
+    void read(std::string & text);
+    void readShort(std::string & text, std::size_t longest); ///< refuses a text of more than `longest` bytes
+    /// A text equal to the one that is there keeps the old one's storage.
+    void read(QString & text);
+
+    /// Bytes read so far.
+    std::uint64_t offset() const { return m_offset; }
+    /// Throws an `ArchiveError` that says `problem` and where in the stream it is.
+    [[noreturn]] void fail(std::string const & problem) const;
+
+private:
+    [[noreturn]] void failShort(std::size_t missing) const;
+
+    std::streambuf & m_stream;
+    std::uint64_t m_offset = 0;
+};
+
+} // namespace Serialize

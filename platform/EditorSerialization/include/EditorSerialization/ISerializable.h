@@ -1,0 +1,57 @@
+/// @file
+/// The root of everything that can stand in an archive.
+#pragma once
+
+#include <string>
+#include <type_traits>
+
+#include <boost/serialization/serialization.hpp>
+
+#include <EditorSerialization/Export.h>
+
+
+namespace Serialize {
+
+class ISerializer;
+class IDeserializer;
+
+/// An object that knows its name in archives and walks the two polymorphic interfaces.
+class EDITORSERIALIZATION_EXPORT ISerializable
+{
+public:
+    virtual ~ISerializable();
+
+    /// The archive name of the object's class, such as "Effect::Crop".
+    virtual std::string GetNameInArchive() const = 0;
+    virtual void Serialize(ISerializer & serializer) const = 0;
+    virtual void Deserialize(IDeserializer & deserializer) = 0;
+
+protected:
+    ISerializable() = default;
+    ISerializable(ISerializable const &) = default;
+    ISerializable(ISerializable &&) = default;
+    ISerializable & operator=(ISerializable const &) = default;
+    ISerializable & operator=(ISerializable &&) = default;
+};
+
+/// Lets the archives reach a class's private `serialize`; every class befriends it.
+struct Access
+{
+    template <class Archive, class T> static void serialize(Archive & archive, T & object) { object.serialize(archive); }
+
+    /// Whether `T` declares a `serialize` of its own. One that it merely inherits would archive the base alone.
+    template <class T, class Archive> static constexpr bool hasOwnSerialize()
+    {
+        return std::is_same_v<decltype(&T::template serialize<Archive>), void (T::*)(Archive &)>;
+    }
+};
+
+/// Hooks the versionless `serialize(Archive &)` of our classes into the archive framework, which finds this overload
+/// through the base class. The third parameter has to be this very type: with a plain integer the call is ambiguous.
+template <class Archive, class T, class = std::enable_if_t<std::is_base_of_v<ISerializable, T>>>
+void serialize(Archive & archive, T & object, boost::serialization::version_type)
+{
+    Access::serialize(archive, object);
+}
+
+} // namespace Serialize

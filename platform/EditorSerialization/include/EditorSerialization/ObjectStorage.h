@@ -1,0 +1,50 @@
+/// @file
+/// Owning what a read created until somebody takes it over.
+#pragma once
+
+#include <cstddef>
+#include <memory>
+
+#include <EditorSerialization/ISerializable.h>
+
+namespace Serialize {
+
+/// Owns objects that a read created. An object that owns others, as a holder does, keeps them: only the outermost
+/// object is the storage's.
+class EDITORSERIALIZATION_EXPORT ObjectStorage
+{
+public:
+    ObjectStorage();
+    ~ObjectStorage(); ///< deletes what it still owns
+    ObjectStorage(ObjectStorage &&) noexcept;
+    ObjectStorage & operator=(ObjectStorage &&) noexcept;
+
+    /// Takes the object over and returns it. Its class must be registered.
+    ISerializable * add(std::unique_ptr<ISerializable> object);
+
+    /// Gives up the ownership of every object, so that they outlive the storage.
+    void releaseAll();
+
+    /// Objects owned at present.
+    std::size_t size() const;
+
+private:
+    struct State;
+    std::unique_ptr<State> m_state;
+};
+
+/// An owning pointer to something read, together with the storage that owns what was created on the way. Whoever takes
+/// the pointer out first calls `storage.releaseAll()`.
+template <class T> struct serialize_ptr
+{
+    std::unique_ptr<T> pointer;
+    ObjectStorage storage;
+
+    T * operator->() const { return pointer.get(); }
+    T & operator*() const { return *pointer; }
+    explicit operator bool() const { return pointer != nullptr; }
+};
+
+} // namespace Serialize
+
+using Serialize::serialize_ptr;

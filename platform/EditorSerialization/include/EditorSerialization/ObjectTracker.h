@@ -1,0 +1,143 @@
+/// @file
+/// An archive that writes nothing and remembers which objects it reached.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <unordered_map>
+
+#include <boost/archive/detail/common_oarchive.hpp>
+#include <boost/archive/detail/register_archive.hpp>
+#include <boost/serialization/nvp.hpp>
+
+#include <EditorSerialization/Classes.h>
+#include <EditorSerialization/ISerializable.h>
+#include <EditorSerialization/Traversal.h>
+
+namespace Serialize {
+
+/// Walks an object as the archives do and records each object that it reaches through a pointer or a reference, and
+/// how. A graph in which one object is reached in two ways that cannot stand together is refused with a
+/// `std::runtime_error`; what was recorded so far stays.
+///
+/// The tracker never releases anything by itself.
+class EDITORSERIALIZATION_EXPORT ObjectTracker : public boost::archive::detail::common_oarchive<ObjectTracker>
+{
+    using Framework = boost::archive::detail::common_oarchive<ObjectTracker>;
+    friend class boost::archive::detail::interface_oarchive<ObjectTracker>;
+    friend class boost::archive::save_access;
+
+public:
+    enum class Kind : std::int32_t {
+        Unknown = 0,
+        Reference = 1,    ///< reached by reference
+        OwnedPointer = 2, ///< reached by pointer; the entry can release the object
+        Pointer = 3,      ///< reached by pointer; the object belongs to somebody else
+    };
+
+    struct Entry
+    {
+        Kind kind = Kind::Unknown;
+        bool saved = false;
+        std::function<void()> release; ///< deletes the object; empty unless the kind is `OwnedPointer`
+    };
+
+    using Entries = std::unordered_map<void const *, Entry>;
+
+    ObjectTracker();
+    ~ObjectTracker() override;
+
+    /// What was reached so far, by address.
+    Entries const & entries() const { return m_entries; }
+
+    /// With the flag set, a pointer newly found becomes `Pointer` instead of `OwnedPointer`.
+    void setForeign(bool foreign) { m_foreign = foreign; }
+    bool isForeign() const { return m_foreign; }
+
+    /// Marks an object as somebody else's before a pointer to it is walked, so that it gets no release function.
+    void forceForeign(void const * object);
+
+    /// Takes an object over as if a pointer to it had been walked with the flag clear, whatever its entry said before.
+    void own(ISerializable const * object);
+
+    /// Runs every release function once, which deletes the objects that were reached by pointer, and forgets them.
+    void releaseAll();
+
+    /// Forgets every entry and releases nothing.
+    void clear() { m_entries.clear(); }
+
+    /// @name The framework's entry points, taken over
+    /// @{
+    void register_basic_serializer(boost::archive::detail::basic_oserializer const & serializer);
+    void save_object(void const * object, boost::archive::detail::basic_oserializer const & serializer);
+    void save_pointer(void const * object, boost::archive::detail::basic_pointer_oserializer const * serializer);
+    void end_preamble() {}
+    /// @}
+
+private:
+    template <class T> void save(T const &) {}
+
+    template <class T> void save_override(T const & value)
+    {
+        if constexpr (std::is_pointer_v<T>)
+            save_impl(value);
+        else
+            Framework::save_override(value);
+    }
+    template <class T> void save_override(boost::serialization::nvp<T> const & value)
+    {
+        save_override(value.const_value());
+    }
+    void save_override(QString const &) {}
+    void save_override(std::string const &) {}
+    template <class T> void save_override(std::unique_ptr<T> const & object) { save_impl(object.get()); }
+    template <class T> void save_override(std::optional<T> const & value)
+    {
+        if (value)
+            save_override(*value);
+    }
+    template <class T, std::size_t N> void save_override(std::array<T, N> const & values)
+    {
+        for (T const & value : values)
+            save_override(value);
+    }
+    template <class T> void save_override(std::deque<T> const & elements)
+    {
+        // Counts are values on the stack: they must not lie where an object on the heap is said to lie.
+        std::size_t const count = elements.size();
+        checkCount(&count);
+        std::uint32_t const itemVersion = 0;
+        checkCount(&itemVersion);
+        for (T const & element : elements)
+            save_override(element);
+    }
+
+    template <class T> void save_impl(T const * object)
+    {
+        static_assert(std::is_base_of_v<ISerializable, T>, "pointers to objects only");
+        if (!object)
+            return;
+        // Objects are known by the address of the whole, whichever base the pointer is to.
+        void const * const address = dynamic_cast<void const *>(object);
+        Entry & entry = m_entries[address];
+        if (entry.kind == Kind::Unknown) {
+            entry.kind = m_foreign ? Kind::Pointer : Kind::OwnedPointer;
+            if (!m_foreign)
+                entry.release = [object] { delete object; };
+        }
+        // The entry stands before the class is asked for: it stays when the class turns out not to be registered.
+        savePointed(address, m_classes.ofObject(*object));
+    }
+    void savePointed(void const * object, Detail::OutputClass const & type);
+    void checkCount(void const * count);
+
+    Entries m_entries;
+    bool m_foreign = false;
+    Detail::OutputClasses<ObjectTracker> m_classes;
+    int m_depth = 0;
+};
+
+} // namespace Serialize
+
+BOOST_SERIALIZATION_REGISTER_ARCHIVE(Serialize::ObjectTracker)

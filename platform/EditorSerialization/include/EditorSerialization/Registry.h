@@ -1,0 +1,52 @@
+/// @file
+/// Building objects from their archive names.
+#pragma once
+
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include <EditorSerialization/ISerializable.h>
+
+namespace Serialize {
+
+/// Makes objects of one class.
+class EDITORSERIALIZATION_EXPORT BaseCreator
+{
+public:
+    /// A new default-constructed object, which the caller owns, or null when there is no memory for it.
+    virtual ISerializable * create() const = 0;
+    virtual ~BaseCreator();
+};
+
+/// Makes a class known by its archive name for as long as the registrator lives: a static of the class, built when
+/// its library is loaded and destroyed when it is unloaded.
+class EDITORSERIALIZATION_EXPORT Registrator
+{
+public:
+    /// @param name     kept as a pointer: a literal
+    /// @param creator  owned from here on; with null the class cannot be made by name
+    /// A name that is already registered keeps its first creator; the second one is reported in the log and dropped.
+    Registrator(char const * name, BaseCreator const * creator);
+    ~Registrator();
+    Registrator(Registrator const &) = delete;
+    Registrator & operator=(Registrator const &) = delete;
+
+private:
+    char const * m_name;
+    std::unique_ptr<BaseCreator const> m_creator;
+};
+
+/// The classes that can be made by name. Safe to ask from any thread.
+namespace Registry {
+
+/// A new default-constructed object of the class with that archive name; null for an unknown name.
+EDITORSERIALIZATION_EXPORT std::unique_ptr<ISerializable> create(std::string_view archiveName);
+
+/// Every registered archive name, sorted.
+EDITORSERIALIZATION_EXPORT std::vector<std::string> names();
+
+} // namespace Registry
+
+} // namespace Serialize

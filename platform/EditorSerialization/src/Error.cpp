@@ -1,0 +1,35 @@
+#include <EditorSerialization/Error.h>
+
+#include <utility>
+
+#include <EditorSerialization/ISerializable.h>
+
+namespace Serialize {
+
+ISerializable::~ISerializable() = default;
+
+ArchiveError::ArchiveError(exception_code errorCode, std::string text)
+    : archive_exception(errorCode)
+    , m_text(std::move(text))
+{
+}
+
+ArchiveError::ArchiveError(ArchiveError const &) noexcept = default;
+
+ArchiveError::~ArchiveError() noexcept = default;
+
+char const * ArchiveError::what() const noexcept
+{
+    return m_text.c_str();
+}
+
+DepthGuard::DepthGuard(int & depth)
+    : m_depth(depth)
+{
+    if (m_depth >= maxObjectDepth)
+        throw ArchiveError(ArchiveError::other_exception,
+            "objects are nested more than " + std::to_string(maxObjectDepth) + " deep");
+    ++m_depth;
+}
+
+} // namespace Serialize

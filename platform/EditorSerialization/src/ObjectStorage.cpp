@@ -1,0 +1,64 @@
+#include <EditorSerialization/ObjectStorage.h>
+
+#include <algorithm>
+#include <vector>
+
+#include <EditorSerialization/ObjectTracker.h>
+
+namespace Serialize {
+
+struct ObjectStorage::State
+{
+    ObjectTracker tracker;
+};
+
+ObjectStorage::ObjectStorage()
+    : m_state(std::make_unique<State>())
+{
+}
+
+ObjectStorage::~ObjectStorage()
+{
+    if (m_state)
+        m_state->tracker.releaseAll();
+}
+
+ObjectStorage::ObjectStorage(ObjectStorage && other) noexcept = default;
+
+ObjectStorage & ObjectStorage::operator=(ObjectStorage && other) noexcept
+{
+    std::swap(m_state, other.m_state);
+    return *this;
+}
+
+ISerializable * ObjectStorage::add(std::unique_ptr<ISerializable> object)
+{
+    ISerializable const * const root = object.get();
+    if (!root)
+        return nullptr;
+    ObjectTracker & tracker = m_state->tracker;
+    // The walk finds what the object owns in turn. Those belong to it, and are no business of this storage.
+    ObjectTracker found;
+    found << root;
+    for (auto const & [address, entry] : found.entries())
+        tracker.forceForeign(address);
+    tracker.own(root);
+    return object.release();
+}
+
+void ObjectStorage::releaseAll()
+{
+    if (m_state)
+        m_state->tracker.clear();
+}
+
+std::size_t ObjectStorage::size() const
+{
+    if (!m_state)
+        return 0;
+    auto const & entries = m_state->tracker.entries();
+    return static_cast<std::size_t>(std::count_if(
+        entries.begin(), entries.end(), [](auto const & entry) { return entry.second.release != nullptr; }));
+}
+
+} // namespace Serialize
