@@ -1,0 +1,168 @@
+/// @file
+/// How a settings class declares its members. A class is a table:
+/// @code
+/// class SETTINGS_EXPORT SettingsEffectTwirl final : public Settings
+/// {
+///     SETTINGS_CLASS(SettingsEffectTwirl)
+///     SETTING(Params, double, double, double, double) // SetParams, and GetParams for a tuple
+///     SETTING(Intensity, float)                       // SetIntensity, and GetIntensity for a float
+///     SETTINGS_FIELD(type, Type)                      // a public data member
+/// };
+/// @endcode
+/// with `SETTINGS_DEFINE(SettingsEffectTwirl)` in one source of the library. That is all: comparison, tracing and
+/// reading find the members by the lines they stand on, so every SETTING and SETTINGS_FIELD needs a line of its own.
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <tuple>
+#include <type_traits>
+#include <utility>
+#include <vector>
+
+#include <Settings/Settings.h>
+
+namespace Quoril::Proc {
+
+/// Holds a value that has no equality of its own: copies share it and are equal, two that were made apart are not.
+template <class T> class Shared
+{
+public:
+    Shared() = default; ///< a value-initialised T, equal to any other such
+    Shared(T value)
+        : m_value(std::make_shared<T const>(std::move(value)))
+    {}
+
+    operator T() const { return m_value ? *m_value : T(); }
+    friend bool operator==(Shared const & a, Shared const & b) { return a.m_value == b.m_value; }
+
+private:
+    std::shared_ptr<T const> m_value;
+};
+
+/// How an argument is kept: as it is, but functions, which have no equality, by a shared handle.
+template <class T> struct KeptAs
+{
+    using Type = T;
+};
+template <class Signature> struct KeptAs<std::vector<std::function<Signature>>>
+{
+    using Type = Shared<std::vector<std::function<Signature>>>;
+};
+
+/// The arguments that one setter was last given, and whether it was called at all.
+template <class... Parameters> struct Setting
+{
+    using Arguments = std::tuple<typename KeptAs<std::decay_t<Parameters>>::Type...>;
+    using Values = std::tuple<std::decay_t<Parameters>...>;
+    /// What the getter returns: the argument of a setter that takes one, a tuple for one that takes several.
+    using Result = std::conditional_t<sizeof...(Parameters) == 1, std::tuple_element_t<0, Values>, Values>;
+
+    Arguments arguments{};
+    bool isGiven = false;
+
+    void give(Parameters... parameters)
+    {
+        arguments = Arguments(static_cast<Parameters &&>(parameters)...);
+        isGiven = true;
+    }
+
+    Result get() const
+    {
+        if constexpr (sizeof...(Parameters) == 1) {
+            return std::get<0>(arguments);
+        } else {
+            return arguments;
+        }
+    }
+};
+
+/// Names a data member of a settings class, `pointer`.
+template <auto pointer> struct MemberSlot
+{
+    char const * name;
+};
+
+/// Members stand on the lines below that of SETTINGS_CLASS, and no further than this.
+inline constexpr int maxMemberLines = 64;
+
+} // namespace Quoril::Proc
+
+/// First in a settings class that others derive from. What follows is public.
+#define SETTINGS_BASE(Class)                                                                                           \
+private:                                                                                                               \
+    friend class MemberTable;                                                                                          \
+    using Self = Class;                                                                                                \
+    static constexpr int s_firstLine = __LINE__;                                                                       \
+                                                                                                                       \
+public:
+
+/// First in a settings class. What follows is public.
+#define SETTINGS_CLASS(Class)                                                                                          \
+public:                                                                                                                \
+    std::unique_ptr<Settings> Clone() const override;                                                                  \
+    std::string GetClassId() const override;                                                                           \
+                                                                                                                       \
+private:                                                                                                               \
+    MemberTable const & members() const override;                                                                      \
+    SETTINGS_BASE(Class)
+
+/// The setter `Set<Name>` with parameters of the types that follow the name, and the getter `Get<Name>`, which answers
+/// value-initialised values until the setter was called.
+#define SETTING(Name, ...)                                                                                             \
+    void Set##Name(SETTINGS_PARAMETERS(__VA_ARGS__))                                                                   \
+    {                                                                                                                  \
+        m_##Name.give(SETTINGS_ARGUMENTS(__VA_ARGS__));                                                                \
+        traceCall(#Name);                                                                                              \
+    }                                                                                                                  \
+    Setting<__VA_ARGS__>::Result Get##Name() const                                                                     \
+    {                                                                                                                  \
+        return m_##Name.get();                                                                                         \
+    }                                                                                                                  \
+                                                                                                                       \
+private:                                                                                                               \
+    Setting<__VA_ARGS__> m_##Name;                                                                                     \
+    SETTINGS_SLOT(#Name, m_##Name)
+
+/// The public data member `name` of the type that follows; it starts value-initialised.
+#define SETTINGS_FIELD(name, ...)                                                                                      \
+    __VA_ARGS__ name{};                                                                                                \
+                                                                                                                       \
+private:                                                                                                               \
+    SETTINGS_SLOT(#name, name)
+
+// Tells the member table of a member, by an overload of `slot` for the line. __LINE__ is the same in every translation
+// unit, which a counter would not be.
+#define SETTINGS_SLOT(text, member)                                                                                    \
+    static_assert(                                                                                                     \
+        __LINE__ > s_firstLine && __LINE__ - s_firstLine <= maxMemberLines, "too far from the head of the class");     \
+    static constexpr auto slot(std::integral_constant<int, __LINE__ - s_firstLine>)                                    \
+    {                                                                                                                  \
+        return MemberSlot<&Self::member>{text};                                                                        \
+    }                                                                                                                  \
+                                                                                                                       \
+public:
+
+// A parameter list and its forwarding from a list of types.
+#define SETTINGS_SELECT(_1, _2, _3, _4, _5, _6, chosen, ...) chosen
+#define SETTINGS_PARAMETERS(...)                                                                                       \
+    SETTINGS_SELECT(__VA_ARGS__, SETTINGS_PARAMETERS_6, SETTINGS_PARAMETERS_5, SETTINGS_PARAMETERS_4,                  \
+        SETTINGS_PARAMETERS_3, SETTINGS_PARAMETERS_2, SETTINGS_PARAMETERS_1, )                                         \
+    (__VA_ARGS__)
+#define SETTINGS_PARAMETERS_1(A) A a
+#define SETTINGS_PARAMETERS_2(A, B) A a, B b
+#define SETTINGS_PARAMETERS_3(A, B, C) A a, B b, C c
+#define SETTINGS_PARAMETERS_4(A, B, C, D) A a, B b, C c, D d
+#define SETTINGS_PARAMETERS_5(A, B, C, D, E) A a, B b, C c, D d, E e
+#define SETTINGS_PARAMETERS_6(A, B, C, D, E, F) A a, B b, C c, D d, E e, F f
+#define SETTINGS_ARGUMENTS(...)                                                                                        \
+    SETTINGS_SELECT(__VA_ARGS__, SETTINGS_ARGUMENTS_6, SETTINGS_ARGUMENTS_5, SETTINGS_ARGUMENTS_4,                     \
+        SETTINGS_ARGUMENTS_3, SETTINGS_ARGUMENTS_2, SETTINGS_ARGUMENTS_1, )                                            \
+    (__VA_ARGS__)
+#define SETTINGS_ARGUMENTS_1(A) static_cast<A &&>(a)
+#define SETTINGS_ARGUMENTS_2(A, B) SETTINGS_ARGUMENTS_1(A), static_cast<B &&>(b)
+#define SETTINGS_ARGUMENTS_3(A, B, C) SETTINGS_ARGUMENTS_2(A, B), static_cast<C &&>(c)
+#define SETTINGS_ARGUMENTS_4(A, B, C, D) SETTINGS_ARGUMENTS_3(A, B, C), static_cast<D &&>(d)
+#define SETTINGS_ARGUMENTS_5(A, B, C, D, E) SETTINGS_ARGUMENTS_4(A, B, C, D), static_cast<E &&>(e)
+#define SETTINGS_ARGUMENTS_6(A, B, C, D, E, F) SETTINGS_ARGUMENTS_5(A, B, C, D, E), static_cast<F &&>(f)

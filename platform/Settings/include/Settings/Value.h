@@ -1,0 +1,79 @@
+/// @file
+/// A value that a settings object holds or was given, for printing and for reading back.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <limits>
+#include <string>
+#include <type_traits>
+#include <utility>
+#include <variant>
+#include <vector>
+
+#include <Settings/Export.h>
+
+namespace Quoril::Proc {
+
+/// Null, a boolean, an integer, a number, a text, a list or an object: what JSON can say. A plain value type.
+class SETTINGS_EXPORT Value
+{
+public:
+    using List = std::vector<Value>;
+    using Object = std::vector<std::pair<std::string, Value>>; ///< in the order inserted
+    using Data = std::variant<std::nullptr_t, bool, std::int64_t, double, std::string, List, Object>;
+
+    Value() = default; ///< null
+    Value(std::nullptr_t) {}
+    Value(double number)
+        : m_data(number)
+    {}
+    Value(char const * text)
+        : m_data(std::string(text))
+    {}
+    Value(std::string text)
+        : m_data(std::move(text))
+    {}
+    Value(List list)
+        : m_data(std::move(list))
+    {}
+    Value(Object object)
+        : m_data(std::move(object))
+    {}
+
+    /// Any integer type. What is beyond a signed 64-bit integer becomes the nearest double.
+    template <class Integer, std::enable_if_t<std::is_integral_v<Integer>, int> = 0> Value(Integer number)
+    {
+        if constexpr (std::is_same_v<Integer, bool>) {
+            m_data = number;
+        } else if constexpr (std::is_signed_v<Integer> || sizeof(Integer) < sizeof(std::int64_t)) {
+            m_data = static_cast<std::int64_t>(number);
+        } else if (number <= static_cast<Integer>(std::numeric_limits<std::int64_t>::max())) {
+            m_data = static_cast<std::int64_t>(number);
+        } else {
+            m_data = static_cast<double>(number);
+        }
+    }
+
+    Data const & data() const { return m_data; }
+
+    /// The value as `Alternative`, one of the types of `Data`; null when it is another.
+    template <class Alternative> Alternative const * as() const { return std::get_if<Alternative>(&m_data); }
+
+    /// An object's value under `key`; null when there is none, and for what is no object.
+    Value const * find(std::string const & key) const;
+
+    /// For messages and for people, in JSON's manner, with numbers in the shortest form that tells them apart.
+    std::string toString() const;
+
+    friend bool operator==(Value const & a, Value const & b) { return a.m_data == b.m_data; }
+    friend bool operator!=(Value const & a, Value const & b) { return !(a == b); }
+
+private:
+    Data m_data;
+};
+
+/// Names with their values, in order.
+using Record = Value::Object;
+
+} // namespace Quoril::Proc
