@@ -1,0 +1,62 @@
+/// @file
+/// What the conversions of all families share, and their declarations, one line an effect.
+///
+/// A conversion fills the settings object that its row in the factory's tables names. Numbers are passed as they are
+/// unless the engine wants them narrower; what a field means to the engine is told with the effect.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+
+#include <effects/Effects.h>
+#include <EditorModel/EffectFactory.h>
+#include <Settings/SettingsColor.h>
+
+namespace Effect::Factory {
+
+namespace Proc = Quoril::Proc;
+
+/// Codes that the engine receives with the settings.
+namespace Stage {
+inline constexpr std::uint8_t audio = 1;
+inline constexpr std::uint8_t openGl = 2;
+inline constexpr std::uint8_t video = 18;
+inline constexpr std::uint8_t oneButton = 19; ///< one-button colour corrections
+} // namespace Stage
+
+/// A record of one settings object.
+EffectSettings makeEffectSettings(
+    std::unique_ptr<Proc::Settings> settings, std::uint8_t stageCode, std::string implementation);
+
+/// The intensity, as most settings classes take it.
+inline float floatIntensity(Object const & effect)
+{
+    return static_cast<float>(effect.intensity);
+}
+
+/// A packed colour's channels, 0 to 255.
+struct Channels
+{
+    std::uint8_t red, green, blue;
+};
+
+/// Splits `0xAARRGGBB`; the alpha is dropped.
+constexpr Channels channels(std::uint32_t color)
+{
+    return {static_cast<std::uint8_t>(color >> 16), static_cast<std::uint8_t>(color >> 8),
+        static_cast<std::uint8_t>(color)};
+}
+
+/// An enumeration's number when it is one of the first `count`, else `fallback`.
+template <class Enum> constexpr int knownValue(Enum value, int count, int fallback = 0)
+{
+    int const number = static_cast<int>(value);
+    return number >= 0 && number < count ? number : fallback;
+}
+
+// Colour correction.
+void fill(Proc::SettingsEffectAutoWhiteBalance &, WhiteBalance const &, VideoParams const &);
+EffectSettings convertManualEnhance(Object const &, VideoParams const &);
+
+} // namespace Effect::Factory

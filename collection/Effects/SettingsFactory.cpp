@@ -1,0 +1,122 @@
+#include <collection/Effects/SettingsFactory.h>
+
+#include <functional>
+#include <utility>
+
+#include <collection/Effects/Conversions.h>
+#include <ConfInt/ImplNames.h>
+
+#include <QMap>
+
+#include <glog/logging.h>
+
+namespace Effect::Factory {
+
+EffectSettings makeEffectSettings(
+    std::unique_ptr<Proc::Settings> settings, std::uint8_t stageCode, std::string implementation)
+{
+    EffectSettings record{{}, stageCode, std::move(implementation)};
+    record.settings.push_back(std::move(settings));
+    return record;
+}
+
+namespace {
+
+template <class Params> using Conversion = std::function<EffectSettings(Object const &, Params const &)>;
+template <class Params> using Table = QMap<QString, Conversion<Params>>;
+
+/// Casts the effect to its class, which throws for another one, and makes the settings object that `fillAndWrap` turns
+/// into a record.
+template <class Effect, class Settings, class Params, class Lambda> Conversion<Params> wrap(Lambda fillAndWrap)
+{
+    return [fillAndWrap](Object const & object, Params const & params) {
+        auto const & effect = dynamic_cast<Effect const &>(object);
+        return fillAndWrap(effect, std::make_unique<Settings>(), params);
+    };
+}
+
+/// A conversion that fills its settings object through the family's `fill`.
+template <class Effect, class Settings, class Params>
+Conversion<Params> row(std::uint8_t stageCode, std::string const & implementation)
+{
+    return wrap<Effect, Settings, Params>(
+        [stageCode, &implementation](Effect const & effect, std::unique_ptr<Settings> settings, Params const & params) {
+            fill(*settings, effect, params);
+            return makeEffectSettings(std::move(settings), stageCode, implementation);
+        });
+}
+
+template <class Effect, class Settings>
+Conversion<VideoParams> video(
+    std::uint8_t stageCode = Stage::video, std::string const & implementation = Proc::ImplNames::DEFAULT)
+{
+    return row<Effect, Settings, VideoParams>(stageCode, implementation);
+}
+
+/// A conversion that leaves its settings object as it was made.
+template <class Effect, class Settings>
+Conversion<VideoParams> bareVideo(
+    std::uint8_t stageCode = Stage::video, std::string const & implementation = Proc::ImplNames::DEFAULT)
+{
+    return wrap<Effect, Settings, VideoParams>(
+        [stageCode, &implementation](Effect const &, std::unique_ptr<Settings> settings, VideoParams const &) {
+            return makeEffectSettings(std::move(settings), stageCode, implementation);
+        });
+}
+
+template <class Params>
+EffectSettings lookUp(Table<Params> const & table, Object const & effect, Params const & params)
+{
+    if (dynamic_cast<EffectDescriptor const *>(&effect)) {
+        LOG(ERROR) << "Settings requested for descriptor. Effect ID is " << effect.id.toStdString();
+        return {};
+    }
+    auto const found = table.constFind(effect.id);
+    if (found == table.constEnd()) {
+        LOG(ERROR) << "Couldn't provide settings for unknown effect. Effect ID is " << effect.id.toStdString();
+        return {};
+    }
+    EffectSettings record = (*found)(effect, params);
+    if (!record.settings.empty())
+        return record;
+    LOG(ERROR) << "Couldn't provide settings for effect. Effect ID is " << effect.id.toStdString();
+    return {};
+}
+
+} // namespace
+
+/// What a factory has loaded so far, by name.
+struct SettingsFactory::Impl
+{
+};
+
+SettingsFactory::SettingsFactory()
+    : m_impl(std::make_unique<Impl>())
+{
+    setFactory(this);
+}
+
+SettingsFactory::~SettingsFactory()
+{
+    setFactory(nullptr);
+}
+
+EffectSettings SettingsFactory::createVideoEffectSettings(Object const & effect, VideoParams const & params)
+{
+    static Table<VideoParams> const table{
+        {Id::AutoContrast, bareVideo<AutoContrast, Proc::SettingsEffectAutoContrast>(Stage::oneButton)},
+        {Id::AutoSaturation, bareVideo<AutoSaturation, Proc::SettingsEffectSaturation>(Stage::oneButton)},
+        {Id::WhiteBalance, video<WhiteBalance, Proc::SettingsEffectAutoWhiteBalance>(Stage::oneButton)},
+        {Id::MagicEnhance, bareVideo<MagicEnhance, Proc::SettingsEffectMagicEnhance2>(Stage::oneButton)},
+        {Id::ManualEnhance, convertManualEnhance},
+    };
+    return lookUp(table, effect, params);
+}
+
+EffectSettings SettingsFactory::createAudioEffectSettings(Object const & effect, AudioParams const & params)
+{
+    static Table<AudioParams> const table{};
+    return lookUp(table, effect, params);
+}
+
+} // namespace Effect::Factory

@@ -1,0 +1,75 @@
+/// @file
+/// Colour correction: four one-button corrections and the manual colour panel. Their intensity has no effect.
+#pragma once
+
+#include <cstdint>
+
+#include <effects/Base.h>
+
+namespace Effect {
+
+/// Stretches the contrast to the full range.
+struct EFFECTS_API AutoContrast : VideoEffect
+{
+    EFFECT_CLASS(AutoContrast)
+    AutoContrast();
+};
+
+/// Raises the saturation of a pale picture.
+struct EFFECTS_API AutoSaturation : VideoEffect
+{
+    EFFECT_CLASS(AutoSaturation)
+    AutoSaturation();
+};
+
+/// Makes one colour of the picture neutral.
+struct EFFECTS_API WhiteBalance : VideoEffect
+{
+    EFFECT_CLASS(WhiteBalance)
+    WhiteBalance();
+
+    std::uint32_t color = 0xFF000000; ///< `0xAARRGGBB`; the alpha plays no part
+};
+
+/// Corrects brightness, contrast and colours in one step.
+struct EFFECTS_API MagicEnhance : VideoEffect
+{
+    EFFECT_CLASS(MagicEnhance)
+    MagicEnhance();
+};
+
+/// The manual colour panel: sliders from -1 to 1, of which 0 changes nothing. Values beyond are passed on.
+struct EFFECTS_API ManualEnhance : VideoEffect
+{
+    EFFECT_CLASS(ManualEnhance)
+    ManualEnhance();
+
+    double gamma = 0;
+    double highlights = 0;
+    double shadows = 0;
+    double brightness = 0;
+    double contrast = 0;
+    double saturation = 0;
+    double hue = 0;
+    double temperature = 0; ///< warm above 0, cold below
+    double tint = 0;        ///< green above 0, magenta below
+
+    ManualEnhance * setGamma(double value);
+    ManualEnhance * setHighlights(double value);
+    ManualEnhance * setShadows(double value);
+    ManualEnhance * setBrightness(double value);
+    ManualEnhance * setContrast(double value);
+    ManualEnhance * setSaturation(double value);
+    ManualEnhance * setHue(double value);
+    ManualEnhance * setTemperature(double value);
+    ManualEnhance * setTint(double value);
+
+    /// Compares the nine sliders with `fuzzyEqual`, and nothing of the base: panels set alike are equal, whatever
+    /// their tags.
+    bool operator==(ManualEnhance const & other) const;
+    bool operator!=(ManualEnhance const & other) const { return !(*this == other); }
+
+    QString defaultTag() const override;
+};
+
+} // namespace Effect

@@ -1,0 +1,7 @@
+/// @file
+/// Everything that the library exports.
+#pragma once
+
+#include <effects/Base.h>
+#include <effects/ColorCorrection.h>
+#include <effects/Identity.h>

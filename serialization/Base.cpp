@@ -1,0 +1,5 @@
+#include <effects/archive/Base.h>
+
+#include "Register.h"
+
+EFFECTS_BASES(EFFECT_REGISTER)
