@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <stdexcept>
 
+#include <EditorModel/Resource.h>
 #include <FileSystem/FileSystem.h>
 #include <glog/logging.h>
 #include <nlohmann/json.hpp>
@@ -106,7 +107,7 @@ std::string_view view(QByteArray const & bytes)
 
 QString findShader(QString const & name, QString const & absolutePath)
 {
-    QString const path = absolutePath;
+    QString const path = absolutePath.isEmpty() ? Resource::registeredPath(name) : absolutePath;
     if (path.isEmpty())
         throw std::runtime_error("no file is registered under this name");
     return QFileInfo(path).isDir() ? FS::joinPath({path, name}, {}) : path;

@@ -7,6 +7,8 @@
 #include <thread>
 #include <vector>
 
+#include <EditorModel/Resource.h>
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
@@ -124,6 +126,18 @@ TEST_F(LoadShaderISF, FindsTheShaderOfTheNameWithinAFolder)
     EXPECT_EQ(loadEffectISF("Soft Glow", path("Glow"))->pixelShader, "soft;");
     EXPECT_EQ(loadEffectISF("Soft Glow.frag", path("Glow"))->pixelShader, "soft;");
     EXPECT_THAT(refused("Blur", path("Glow")), HasSubstr("Glow/Blur\": there is no such file"));
+}
+
+TEST_F(LoadShaderISF, LooksUpAnEmptyPathInTheRegistry)
+{
+    writeShader("glow.fs", "glow;");
+    writeShader("other.fs", "other;");
+    Resource::ID const id("Glow", Resource::Type::Blob);
+    Resource::registerResource(id, path("glow.fs"), 0, MTime(), Resource::Timing());
+    EXPECT_EQ(loadEffectISF("Glow", {})->pixelShader, "glow;");
+    EXPECT_EQ(loadEffectISF("Glow", path("other.fs"))->pixelShader, "other;");
+    Resource::unregisterResource(id);
+    EXPECT_THAT(refused("Glow", {}), AllOf(HasSubstr("\"Glow\""), HasSubstr("no file is registered under this name")));
 }
 
 TEST_F(LoadShaderISF, TakesNamesInAnyScript)
