@@ -1,0 +1,2 @@
+/*{"CREDIT": "us
+, "INPUTS": [{]}*/ void main() {}

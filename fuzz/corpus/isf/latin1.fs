@@ -1,0 +1,2 @@
+/*{"CREDIT": "by Jürgen"}*/
+void main() {}

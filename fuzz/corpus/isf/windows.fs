@@ -1,0 +1,4 @@
+﻿/*{
+"CREDIT":	"u	s",
+}*/
+void main(){}

@@ -1,0 +1,18 @@
+/// @file
+/// Turns the JSON of a head comment into the configuration text.
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include <nlohmann/json_fwd.hpp>
+
+namespace External::ShaderISF {
+
+/// The configuration text of `head`: checked, every default filled in, in the one form of the README. The paths of
+/// imports go through `resolvePath`.
+/// @throws std::runtime_error that names the value at fault by its path within the head
+std::string makeConfiguration(
+    nlohmann::json const & head, std::function<std::string(std::string const &)> const & resolvePath);
+
+} // namespace External::ShaderISF
