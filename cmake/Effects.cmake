@@ -10,23 +10,34 @@ set(EDITOREFFECTS_PUBLIC_HEADERS
   effects/Export.h
   effects/Identity.h)
 
-# Static initialisers run in the order of this list: the exported classes and
-# their constants, then the hidden ones, then the catalogue's constants.
-add_library(EditorEffectsObjects OBJECT
-  serialization/Base.cpp
-  serialization/ColorCorrection.cpp
-  effects/Identity.cpp
-  effects/Base.cpp
-  effects/ColorCorrection.cpp
+# A family is a source of each of three kinds, of its own name. Static initialisers run in this order: the exported
+# classes and their constants, then the hidden ones.
+set(exported_families Base ColorCorrection Geometry Composition Mask Shaders Equalizer Dynamics Modulation CleanUp Holder)
+set(hidden_families Mirroring Blur Distortion Artistic Retro ColorFilters Light Voice)
+
+function(add_families)
+  foreach(family IN LISTS ARGN)
+    foreach(source IN ITEMS serialization/${family}.cpp effects/${family}.cpp collection/Effects/conversions/${family}.cpp)
+      if(EXISTS "${PROJECT_SOURCE_DIR}/${source}")
+        target_sources(EditorEffectsObjects PRIVATE ${source})
+      endif()
+    endforeach()
+  endforeach()
+endfunction()
+
+add_library(EditorEffectsObjects OBJECT)
+add_families(${exported_families})
+target_sources(EditorEffectsObjects PRIVATE effects/Identity.cpp)
+add_families(${hidden_families})
+target_sources(EditorEffectsObjects PRIVATE
   effects/PrivateIdentity.cpp
-  collection/Effects/SettingsFactory.cpp
-  collection/Effects/conversions/ColorCorrection.cpp)
+  collection/Effects/SettingsFactory.cpp)
 target_include_directories(EditorEffectsObjects PUBLIC "$<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>")
 target_link_libraries(EditorEffectsObjects
   PUBLIC
     Editor::EditorModel Editor::EditorSerialization Editor::EditorUtil Editor::Settings Editor::MTime Qt5::Core Qt5::Gui
   PRIVATE
-    Editor::ConfInt Editor::Utils Editor::EditorSettings
+    Editor::ConfInt Editor::Utils Editor::ParserLUT Editor::EditorSettings Editor::EditorExternalResourses
     Editor::FileSystem glog::glog EditorBuildFlags)
 if(NOT CMAKE_DISABLE_PRECOMPILE_HEADERS)
   target_precompile_headers(EditorEffectsObjects PRIVATE
@@ -44,7 +55,7 @@ target_link_libraries(EditorEffects
   PUBLIC
     Editor::EditorModel Editor::EditorSerialization Editor::EditorUtil Editor::Settings Editor::MTime Qt5::Core Qt5::Gui
   PRIVATE
-    Editor::ConfInt Editor::Utils Editor::EditorSettings
+    Editor::ConfInt Editor::Utils Editor::ParserLUT Editor::EditorSettings Editor::EditorExternalResourses
     Editor::FileSystem glog::glog)
 set_target_properties(EditorEffects PROPERTIES
   VERSION ${PROJECT_VERSION}

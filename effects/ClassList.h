@@ -16,7 +16,138 @@
     X(MagicEnhance)                                                                                                    \
     X(ManualEnhance)
 
+#define EFFECTS_GEOMETRY(X)                                                                                            \
+    X(Crop)                                                                                                            \
+    X(Transpose)                                                                                                       \
+    X(FixVertVideo)
+
+#define EFFECTS_COMPOSITION(X)                                                                                         \
+    X(PictureInPicture)                                                                                                \
+    X(SideBySide)                                                                                                      \
+    X(Opacity)                                                                                                         \
+    X(ChromaKey)                                                                                                       \
+    X(Overlay)                                                                                                         \
+    X(ColorBlending)                                                                                                   \
+    X(AlphaInserter)
+
+#define EFFECTS_MASK(X)                                                                                                \
+    X(Frame)                                                                                                           \
+    X(FrameHighlight)                                                                                                  \
+    X(FrameConceal)                                                                                                    \
+    X(Mask)
+
+#define EFFECTS_SHADERS(X)                                                                                             \
+    X(Lut)                                                                                                             \
+    X(ShaderISF)                                                                                                       \
+    X(ExternalShader)
+
+#define EFFECTS_EQUALIZER(X)                                                                                           \
+    X(AudioEqualizer::BandEq)                                                                                          \
+    X(AudioEqualizer)
+
+#define EFFECTS_DYNAMICS(X)                                                                                            \
+    X(AudioNoiseGate)                                                                                                  \
+    X(AudioCompressor)
+
+#define EFFECTS_MODULATION(X)                                                                                          \
+    X(AudioDistortion)                                                                                                 \
+    X(AudioReverb)                                                                                                     \
+    X(AudioFlanger)                                                                                                    \
+    X(AudioVibrato)
+
+#define EFFECTS_CLEAN_UP(X)                                                                                            \
+    X(AudioNoiseSuppress)                                                                                              \
+    X(AudioMonoChannel)                                                                                                \
+    X(AudioAiDenoise)                                                                                                  \
+    X(AudioNormalize)                                                                                                  \
+    X(BackgroundRemove)
+
+#define EFFECTS_HOLDER(X)                                                                                              \
+    X(EffectsHolder)                                                                                                   \
+    X(AudioEnhance)
+
+#define EFFECTS_MIRRORING(X)                                                                                           \
+    X(Flip)                                                                                                            \
+    X(Mirror)
+
+#define EFFECTS_BLUR(X)                                                                                                \
+    X(Blur)                                                                                                            \
+    X(BokehBlur)                                                                                                       \
+    X(MotionBlur)                                                                                                      \
+    X(TiltShift)                                                                                                       \
+    X(Sharpen)
+
+#define EFFECTS_DISTORTION(X)                                                                                          \
+    X(Twirl)                                                                                                           \
+    X(Vertigo)                                                                                                         \
+    X(FishEye)                                                                                                         \
+    X(LensDistortion)                                                                                                  \
+    X(CameraShake)                                                                                                     \
+    X(ChromaticAberration)
+
+#define EFFECTS_ARTISTIC(X)                                                                                            \
+    X(OilPaint)                                                                                                        \
+    X(PopArt)                                                                                                          \
+    X(Posterize)                                                                                                       \
+    X(FindEdges)                                                                                                       \
+    X(HalfTone)                                                                                                        \
+    X(Mosaic)                                                                                                          \
+    X(GlassMosaic)                                                                                                     \
+    X(Erosion)                                                                                                         \
+    X(Diffuse)                                                                                                         \
+    X(Stripes)                                                                                                         \
+    X(AddNoize)
+
+#define EFFECTS_RETRO(X)                                                                                               \
+    X(RetroArtefacts)                                                                                                  \
+    X(RetroColors)                                                                                                     \
+    X(VHS)                                                                                                             \
+    X(Television70s)                                                                                                   \
+    X(GlitchMpeg)                                                                                                      \
+    X(GlitchSecurityCam)                                                                                               \
+    X(FilmStrip)
+
+#define EFFECTS_COLOR_FILTERS(X)                                                                                       \
+    X(ColorBrush)                                                                                                      \
+    X(ColorFilter)                                                                                                     \
+    X(ColorMixBurn)                                                                                                    \
+    X(ColorSelect)                                                                                                     \
+    X(ColorMixExchange)                                                                                                \
+    X(Invert)
+
+#define EFFECTS_LIGHT(X)                                                                                               \
+    X(FlyingObjects)                                                                                                   \
+    X(LensFlare)                                                                                                       \
+    X(LightLeaks)                                                                                                      \
+    X(VignetteFilter)
+
+#define EFFECTS_VOICE(X)                                                                                               \
+    X(AudioPhone)                                                                                                      \
+    X(AudioMuffle)                                                                                                     \
+    X(AudioRadio)                                                                                                      \
+    X(AudioEcho::Echo)                                                                                                 \
+    X(AudioEcho)                                                                                                       \
+    X(AudioPitch)                                                                                                      \
+    X(AudioRobot)
+
 /// Everything, family by family.
 #define EFFECTS_ALL(X)                                                                                                 \
     EFFECTS_BASES(X)                                                                                                   \
-    EFFECTS_COLOR_CORRECTION(X)
+    EFFECTS_COLOR_CORRECTION(X)                                                                                        \
+    EFFECTS_GEOMETRY(X)                                                                                                \
+    EFFECTS_COMPOSITION(X)                                                                                             \
+    EFFECTS_MASK(X)                                                                                                    \
+    EFFECTS_SHADERS(X)                                                                                                 \
+    EFFECTS_EQUALIZER(X)                                                                                               \
+    EFFECTS_DYNAMICS(X)                                                                                                \
+    EFFECTS_MODULATION(X)                                                                                              \
+    EFFECTS_CLEAN_UP(X)                                                                                                \
+    EFFECTS_HOLDER(X)                                                                                                  \
+    EFFECTS_MIRRORING(X)                                                                                               \
+    EFFECTS_BLUR(X)                                                                                                    \
+    EFFECTS_DISTORTION(X)                                                                                              \
+    EFFECTS_ARTISTIC(X)                                                                                                \
+    EFFECTS_RETRO(X)                                                                                                   \
+    EFFECTS_COLOR_FILTERS(X)                                                                                           \
+    EFFECTS_LIGHT(X)                                                                                                   \
+    EFFECTS_VOICE(X)

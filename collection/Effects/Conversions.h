@@ -9,8 +9,8 @@
 #include <memory>
 #include <string>
 
-#include <effects/Effects.h>
 #include <EditorModel/EffectFactory.h>
+#include <effects/Effects.h>
 #include <Settings/SettingsColor.h>
 
 namespace Effect::Factory {
@@ -58,5 +58,35 @@ template <class Enum> constexpr int knownValue(Enum value, int count, int fallba
 // Colour correction.
 void fill(Proc::SettingsEffectAutoWhiteBalance &, WhiteBalance const &, VideoParams const &);
 EffectSettings convertManualEnhance(Object const &, VideoParams const &);
+
+// Geometry and mirroring.
+
+// Composition.
+
+// Mask.
+
+// Lookup tables and shaders.
+
+// Blur and sharpness.
+
+// Distortion.
+
+// Artistic filters.
+
+// Retro and glitch.
+
+// Colour filters.
+
+// Light and particles.
+
+// Equalizer.
+
+// Dynamics.
+
+// Modulation and space.
+
+// Voice.
+
+// Clean-up.
 
 } // namespace Effect::Factory

@@ -1,0 +1,60 @@
+/// @file
+/// Converting an effect in a test and seeing all of what came of it.
+#pragma once
+
+#include <ostream>
+#include <string>
+#include <vector>
+
+#include <collection/Effects/SettingsFactory.h>
+#include <EditorModel/EffectFactory.h>
+
+#include <glog/logging.h>
+#include <gtest/gtest.h>
+
+namespace Testing {
+
+/// Collects what is logged while it lives.
+class LogCapture final : private google::LogSink
+{
+public:
+    LogCapture() { google::AddLogSink(this); }
+    ~LogCapture() override { google::RemoveLogSink(this); }
+
+    /// Severity and text of each message, such as "ERROR: text".
+    std::vector<std::string> lines;
+
+private:
+    void send(google::LogSeverity severity, char const *, char const *, int, tm const *, char const * message,
+        std::size_t length) override
+    {
+        lines.push_back(std::string(google::GetLogSeverityName(severity)) + ": " + std::string(message, length));
+    }
+};
+
+/// What a conversion gave. A settings object reads as its description does, for instance
+/// `{"class": "SettingsEffectBlurGaussian", "calls": [["SetScale", 1]], "fields": {}}`.
+struct Converted
+{
+    int stageCode = 0;
+    std::string implementation;
+    std::vector<std::string> settings;
+    std::vector<std::string> log;
+};
+
+/// Converts through the installed factory.
+Converted convert(Effect::Object const & effect, Effect::Factory::VideoParams const & params = {});
+Converted convert(Effect::Object const & effect, Effect::Factory::AudioParams const & params);
+
+/// The description of a settings object: class, calls and fields, the last two as they stand between the brackets,
+/// such as `["SetScale", 1]` and `"gamma": 1`.
+std::string settings(std::string const & className, std::string const & calls, std::string const & fields = "");
+
+/// A test that converts: a factory is installed while it runs.
+class ConversionTest : public testing::Test
+{
+protected:
+    Effect::Factory::SettingsFactory factory;
+};
+
+} // namespace Testing
