@@ -11,9 +11,12 @@ namespace {
 
 std::string shortened(std::string text)
 {
-    constexpr std::size_t longest = 80;
-    if (text.size() > longest) {
-        text.replace(longest, std::string::npos, "...");
+    std::size_t length = 80;
+    if (text.size() > length) {
+        while (length > 0 && (static_cast<unsigned char>(text[length]) & 0xC0) == 0x80) {
+            --length; // not in the middle of a character of UTF-8
+        }
+        text.replace(length, std::string::npos, "...");
     }
     return text;
 }
