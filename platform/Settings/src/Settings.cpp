@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <stdexcept>
+#include <typeinfo>
 
 #include "MemberTable.h"
 
@@ -39,9 +40,11 @@ Settings::~Settings()
 
 bool Settings::IsEqualTo(Settings const & other) const
 {
+    if (typeid(*this) != typeid(other)) {
+        return false;
+    }
     MemberTable const & table = members();
-    return GetClassId() == other.GetClassId() &&
-           std::all_of(table.begin(), table.end(), [&](Member const & member) { return member.isSame(*this, other); });
+    return std::all_of(table.begin(), table.end(), [&](Member const & member) { return member.isSame(*this, other); });
 }
 
 bool Settings::IsEmpty() const
