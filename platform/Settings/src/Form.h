@@ -2,6 +2,7 @@
 /// The value form of each type that a setting or a public data member can have: how it is told, read and compared.
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -30,8 +31,8 @@ template <class T, class = void> struct Form;
 /// as the list of them.
 template <class T> struct Parts;
 
-/// For types that only code can make. `noun` names them in messages.
-template <class T> struct OpaqueForm
+/// For handles, which compare by identity, and which only code can give.
+template <class T> struct HandleForm
 {
     static bool read(Value const &, T &) { return false; }
     static bool same(T const & a, T const & b) { return a == b; }

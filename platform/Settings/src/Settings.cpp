@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <stdexcept>
+#include <typeinfo>
 
 #include "MemberTable.h"
 
@@ -11,9 +12,12 @@ namespace {
 
 std::string shortened(std::string text)
 {
-    constexpr std::size_t longest = 80;
-    if (text.size() > longest) {
-        text.replace(longest, std::string::npos, "...");
+    std::size_t length = 80;
+    if (text.size() > length) {
+        while (length > 0 && (static_cast<unsigned char>(text[length]) & 0xC0) == 0x80) {
+            --length; // not in the middle of a character of UTF-8
+        }
+        text.replace(length, std::string::npos, "...");
     }
     return text;
 }
@@ -36,9 +40,11 @@ Settings::~Settings()
 
 bool Settings::IsEqualTo(Settings const & other) const
 {
+    if (typeid(*this) != typeid(other)) {
+        return false;
+    }
     MemberTable const & table = members();
-    return GetClassId() == other.GetClassId() &&
-           std::all_of(table.begin(), table.end(), [&](Member const & member) { return member.isSame(*this, other); });
+    return std::all_of(table.begin(), table.end(), [&](Member const & member) { return member.isSame(*this, other); });
 }
 
 bool Settings::IsEmpty() const

@@ -64,7 +64,7 @@ template <class... Parameters> struct Setting
 
     void give(Parameters... parameters)
     {
-        arguments = Arguments(static_cast<Parameters &&>(parameters)...);
+        arguments = Arguments(std::forward<Parameters>(parameters)...);
         isGiven = true;
     }
 
@@ -160,9 +160,9 @@ public:
     SETTINGS_SELECT(__VA_ARGS__, SETTINGS_ARGUMENTS_6, SETTINGS_ARGUMENTS_5, SETTINGS_ARGUMENTS_4,                     \
         SETTINGS_ARGUMENTS_3, SETTINGS_ARGUMENTS_2, SETTINGS_ARGUMENTS_1, )                                            \
     (__VA_ARGS__)
-#define SETTINGS_ARGUMENTS_1(A) static_cast<A &&>(a)
-#define SETTINGS_ARGUMENTS_2(A, B) SETTINGS_ARGUMENTS_1(A), static_cast<B &&>(b)
-#define SETTINGS_ARGUMENTS_3(A, B, C) SETTINGS_ARGUMENTS_2(A, B), static_cast<C &&>(c)
-#define SETTINGS_ARGUMENTS_4(A, B, C, D) SETTINGS_ARGUMENTS_3(A, B, C), static_cast<D &&>(d)
-#define SETTINGS_ARGUMENTS_5(A, B, C, D, E) SETTINGS_ARGUMENTS_4(A, B, C, D), static_cast<E &&>(e)
-#define SETTINGS_ARGUMENTS_6(A, B, C, D, E, F) SETTINGS_ARGUMENTS_5(A, B, C, D, E), static_cast<F &&>(f)
+#define SETTINGS_ARGUMENTS_1(A) std::forward<A>(a)
+#define SETTINGS_ARGUMENTS_2(A, B) SETTINGS_ARGUMENTS_1(A), std::forward<B>(b)
+#define SETTINGS_ARGUMENTS_3(A, B, C) SETTINGS_ARGUMENTS_2(A, B), std::forward<C>(c)
+#define SETTINGS_ARGUMENTS_4(A, B, C, D) SETTINGS_ARGUMENTS_3(A, B, C), std::forward<D>(d)
+#define SETTINGS_ARGUMENTS_5(A, B, C, D, E) SETTINGS_ARGUMENTS_4(A, B, C, D), std::forward<E>(e)
+#define SETTINGS_ARGUMENTS_6(A, B, C, D, E, F) SETTINGS_ARGUMENTS_5(A, B, C, D, E), std::forward<F>(f)

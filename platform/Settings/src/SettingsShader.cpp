@@ -1,0 +1,24 @@
+#include <Settings/SettingsShader.h>
+
+#include "ImageForm.h"
+#include "MemberTable.h"
+
+#include <ParserLUT/LUTTable.h>
+
+namespace Quoril::Proc {
+
+/// Told as its size.
+template <> struct Form<std::shared_ptr<LUT::LUTTable>> : HandleForm<std::shared_ptr<LUT::LUTTable>>
+{
+    static Value tell(std::shared_ptr<LUT::LUTTable> const & table)
+    {
+        return table ? Value::Object{{"size", Form<std::array<int, 3>>::tell(table->size)}} : Value();
+    }
+    static std::string expected() { return "a table, which only code can give"; }
+};
+
+SETTINGS_DEFINE(SettingsEffectLUT)
+SETTINGS_DEFINE(SettingsEffectISF)
+SETTINGS_DEFINE(SettingsEffectTemplateQES)
+
+} // namespace Quoril::Proc
