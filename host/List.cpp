@@ -1,0 +1,73 @@
+#include <iostream>
+
+#include <EditorSerialization/Registry.h>
+
+#include "Command.h"
+#include "Documents.h"
+#include "Output.h"
+
+namespace Host {
+
+using nlohmann::json;
+
+namespace {
+
+/// What there is to say of a class: its default object, and of a record that is no effect only what a record has.
+json describe(std::string const & className)
+{
+    auto const object = create(className);
+    json const archived = document(*object);
+    json described{{"class", className}, {"fields", ownFields(archived)}};
+    std::string const base = baseOf(archived);
+    described["base"] = base.empty() ? json() : json(base);
+    auto const text = [](QString const & value) { return value.toStdString(); };
+    if (auto const * const effect = dynamic_cast<Effect::Object const *>(object.get())) {
+        described["id"] = text(effect->id);
+        described["groupId"] = text(effect->groupId);
+        described["tag"] = text(effect->tag);
+        described["defaultTag"] = text(effect->defaultTag());
+        described["type"] = static_cast<int>(effect->type());
+        described["impl"] = static_cast<int>(effect->impl());
+        described["hasIntensity"] = effect->hasIntensity();
+        described["isTwoInput"] = effect->isTwoInput();
+        described["intensity"] = effect->intensity;
+        described["processingSettingsId"] = text(effect->processingSettingsId());
+    } else {
+        for (char const * const key : {"id", "groupId", "tag", "defaultTag", "type", "impl", "hasIntensity",
+                 "isTwoInput", "intensity", "processingSettingsId"})
+            described[key] = nullptr;
+    }
+    return described;
+}
+
+void list(bool asJson)
+{
+    json classes = json::array();
+    for (std::string const & name : Serialize::Registry::names())
+        classes.push_back(describe(name));
+    if (asJson)
+        return printJson(std::cout, classes);
+
+    std::vector<std::vector<std::string>> rows{{"CLASS", "BASE", "TAG", "FIELDS"}};
+    for (json const & entry : classes) {
+        std::string fields;
+        for (auto const & [key, value] : entry["fields"].items())
+            fields += (fields.empty() ? "" : " ") + key;
+        rows.push_back({entry["class"], entry["base"].is_null() ? "-" : entry["base"].get<std::string>(),
+            entry["tag"].is_null() || entry["tag"] == "" ? "-" : entry["tag"].get<std::string>(), fields});
+    }
+    printTable(std::cout, rows);
+}
+
+} // namespace
+
+void addList(CLI::App & program)
+{
+    auto * const command = program.add_subcommand("list", "Every class that can stand in an archive");
+    auto const asJson = std::make_shared<bool>(false);
+    command->add_flag("--json", *asJson, "Print one JSON document");
+    setExamples(*command, "  effectctl list\n  effectctl list --json");
+    command->callback([asJson] { list(*asJson); });
+}
+
+} // namespace Host

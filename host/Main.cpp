@@ -1,0 +1,38 @@
+#include <cstdlib>
+#include <iostream>
+
+#include "Command.h"
+
+#include <glog/logging.h>
+
+int main(int argc, char ** argv)
+{
+    // The library's messages go where ours go, and into no file.
+    FLAGS_logtostderr = true;
+    FLAGS_log_prefix = false;
+    google::InitGoogleLogging(argv[0]);
+    // Pictures are read, and nothing is shown.
+    setenv("QT_QPA_PLATFORM", "offscreen", 0);
+
+    CLI::App program("Reads, writes, converts and lists the effects of a video editor.", "effectctl");
+    program.require_subcommand(1);
+    program.set_version_flag("--version", EDITOREFFECTS_VERSION);
+    Host::addList(program);
+    Host::addShow(program);
+    Host::addArchive(program);
+    Host::addConvert(program);
+
+    try {
+        program.parse(argc, argv);
+    } catch (CLI::ParseError const & error) {
+        return program.exit(error) == 0 ? Host::Status::done : Host::Status::wrongUsage;
+    } catch (Host::Failure const & failure) {
+        std::cerr << "effectctl: " << failure.what() << '\n';
+        return Host::Status::badInput;
+    } catch (std::exception const & error) {
+        std::cerr << "effectctl: " << error.what() << '\n';
+        return Host::Status::badInput;
+    }
+    std::cout.flush();
+    return std::cout ? Host::Status::done : Host::Status::badInput;
+}
