@@ -173,7 +173,7 @@ int White(std::vector<Row> const & rows)
     return LikelyWhite(largest);
 }
 
-class Parser3dl : public IParserLUT
+class Parser3dl final : public IParserLUT
 {
 public:
     std::shared_ptr<LUTTable> Parse(std::string const & text) override
@@ -228,16 +228,14 @@ std::unique_ptr<IParserLUT> Create3dlParser(std::string_view text)
 {
     Scanner scanner(text);
     scanner.NextWord();
-    bool const keyword = scanner.Accept("3DMESH");
+    if (scanner.Accept("3DMESH"))
+        return std::make_unique<Parser3dl>();
     int integers = 0;
-    while (!keyword && !scanner.AtLineEnd()) {
-        std::string_view const word = scanner.Word("");
+    for (auto word = scanner.Word(); !word.empty(); word = scanner.Word(), ++integers)
         if (!std::all_of(word.begin(), word.end(), IsDigit))
             return nullptr;
-        ++integers;
-    }
     // A lone number begins too much else.
-    if (!keyword && integers < 2)
+    if (integers < 2)
         return nullptr;
     return std::make_unique<Parser3dl>();
 }

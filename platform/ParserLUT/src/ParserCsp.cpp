@@ -69,8 +69,8 @@ Curve ReadCurve(Scanner & scanner)
     while (curve.size() < count) {
         float const input = scanner.Number();
         if (!curve.empty() && !(curve.back().input < input))
-            throw ParseError(scanner.Line(), "inputs that increase",
-                std::to_string(curve.back().input) + " and then " + std::to_string(input));
+            throw ParseError(
+                scanner.Line(), "inputs that increase", Shown(curve.back().input) + " and then " + Shown(input));
         curve.push_back({input, 0});
     }
     scanner.NextLine();
@@ -80,7 +80,7 @@ Curve ReadCurve(Scanner & scanner)
     return IsIdentity(curve) ? Curve() : curve;
 }
 
-class ParserCsp : public IParserLUT
+class ParserCsp final : public IParserLUT
 {
 public:
     std::shared_ptr<LUTTable> Parse(std::string const & text) override

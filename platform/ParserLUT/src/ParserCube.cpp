@@ -18,6 +18,7 @@
 #include <algorithm>
 #include <array>
 #include <iterator>
+#include <utility>
 
 #include <ParserLUT/ParseError.h>
 
@@ -55,7 +56,7 @@ std::string ReadTitle(Scanner & scanner)
     if (text.empty() || text.front() != '"')
         return std::string(text); // some writers leave the quotes out
     auto const end = text.find('"', 1);
-    if (end == text.npos)
+    if (end == std::string_view::npos)
         scanner.Fail("a quote that closes the title");
     return std::string(text.substr(1, end - 1));
 }
@@ -66,8 +67,8 @@ Range ReadRange(Scanner & scanner)
     range.min = scanner.Number();
     range.max = scanner.Number();
     if (!(range.min < range.max))
-        throw ParseError(scanner.Line(), "a range that begins below its end",
-            std::to_string(range.min) + " to " + std::to_string(range.max));
+        throw ParseError(
+            scanner.Line(), "a range that begins below its end", Shown(range.min) + " to " + Shown(range.max));
     return range;
 }
 
@@ -158,7 +159,7 @@ void SetDomain(LUTTable & table, Header const & header)
         for (std::size_t channel = 0; channel < header.domainMin.size(); ++channel)
             if (!(header.domainMin[channel] < header.domainMax[channel]))
                 throw ParseError(header.domainLine, "DOMAIN_MIN below DOMAIN_MAX in every channel",
-                    std::to_string(header.domainMin[channel]) + " and " + std::to_string(header.domainMax[channel]));
+                    Shown(header.domainMin[channel]) + " and " + Shown(header.domainMax[channel]));
         table.domainMin = header.domainMin;
         table.domainMax = header.domainMax;
         return;
@@ -174,7 +175,8 @@ std::array<Curve, 3> MakeShaper(std::vector<Color> const & outputs, Header const
     std::array<Curve, 3> shaper;
     for (auto & curve : shaper)
         curve.reserve(outputs.size());
-    double const step = (double(header.range1D.max) - header.range1D.min) / static_cast<double>(outputs.size() - 1);
+    double const step =
+        (static_cast<double>(header.range1D.max) - header.range1D.min) / static_cast<double>(outputs.size() - 1);
     for (std::size_t i = 0; i < outputs.size(); ++i) {
         bool const last = i + 1 == outputs.size();
         auto const input =
@@ -187,7 +189,7 @@ std::array<Curve, 3> MakeShaper(std::vector<Color> const & outputs, Header const
     return shaper;
 }
 
-class ParserCube : public IParserLUT
+class ParserCube final : public IParserLUT
 {
 public:
     std::shared_ptr<LUTTable> Parse(std::string const & text) override

@@ -76,7 +76,7 @@ void ReadEntries(Scanner & scanner, LUTTable & table)
             "none for " + Position(PositionOf(static_cast<std::size_t>(missing - filled.begin()), table)));
 }
 
-class ParserSpi3d : public IParserLUT
+class ParserSpi3d final : public IParserLUT
 {
 public:
     std::shared_ptr<LUTTable> Parse(std::string const & text) override

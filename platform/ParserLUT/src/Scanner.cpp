@@ -1,6 +1,7 @@
 #include "Scanner.h"
 
 #include <algorithm>
+#include <array>
 #include <charconv>
 #include <cmath>
 #include <system_error>
@@ -54,6 +55,13 @@ bool SameWord(std::string_view a, std::string_view b)
 {
     return std::equal(
         a.begin(), a.end(), b.begin(), b.end(), [](char c, char d) { return LowerCase(c) == LowerCase(d); });
+}
+
+std::string Shown(float number)
+{
+    std::array<char, 32> text;
+    auto const end = std::to_chars(text.data(), text.data() + text.size(), number).ptr;
+    return {text.data(), end};
 }
 
 Scanner::Scanner(std::string_view text)
@@ -110,10 +118,10 @@ std::string_view Scanner::PeekWord() const
     return {m_at, static_cast<std::size_t>(end - m_at)};
 }
 
-std::string_view Scanner::Word(std::string const & expected)
+std::string_view Scanner::Word()
 {
     if (AtLineEnd())
-        Fail(expected);
+        return {};
     std::string_view const word = PeekWord();
     m_at += word.size();
     return word;

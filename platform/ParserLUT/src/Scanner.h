@@ -44,8 +44,8 @@ public:
     /// @param what what the text has had, such as "8 entries"
     void EndText(std::string const & what);
 
-    /// Takes the next word of the line, which must be there.
-    std::string_view Word(std::string const & expected);
+    /// Takes the next word of the line, or nothing at its end.
+    std::string_view Word();
 
     /// Takes the next word of the line if it is @p keyword, in either case.
     bool Accept(std::string_view keyword);
@@ -85,5 +85,8 @@ private:
 
 /// Whether two words are the same but for the case of ASCII letters.
 bool SameWord(std::string_view a, std::string_view b);
+
+/// A number for a message, in as few digits as tell it from its neighbours.
+std::string Shown(float number);
 
 } // namespace Quoril::Proc::LUT

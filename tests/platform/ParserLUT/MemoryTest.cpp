@@ -1,35 +1,9 @@
-/// How much memory a parser asks for. The program's own operators new count it.
+/// How much memory a parser asks for.
 #include "Parsing.h"
-
-#include <atomic>
-#include <cstdlib>
-#include <new>
 
 #include <ParserLUT/ParserLUTFactory.h>
 
-namespace {
-
-std::atomic<std::size_t> allocated{0};
-
-} // namespace
-
-void * operator new(std::size_t size)
-{
-    allocated += size;
-    if (void * const memory = std::malloc(size != 0 ? size : 1))
-        return memory;
-    throw std::bad_alloc();
-}
-
-void operator delete(void * memory) noexcept
-{
-    std::free(memory);
-}
-
-void operator delete(void * memory, std::size_t) noexcept
-{
-    std::free(memory);
-}
+#include "Allocations.h"
 
 namespace {
 
@@ -55,13 +29,13 @@ TEST(ParserLUTMemory, ClaimsCostNothing)
     for (auto const & text : texts) {
         auto const parser = ParserLUTFactory::GetParser(text);
         ASSERT_TRUE(parser);
-        auto const before = allocated.load();
+        auto const before = AllocatedBytes();
         std::size_t after = 0;
         try {
             parser->Parse(text);
             ADD_FAILURE() << text;
         } catch (std::exception const &) {
-            after = allocated.load();
+            after = AllocatedBytes();
         }
         EXPECT_LT(after - before, allowance) << text;
     }
@@ -76,9 +50,9 @@ TEST(ParserLUTMemory, CubeTakesItsEntriesAndNothingElse)
         text += "0.123456 0.234567 0.345678\n";
     auto const parser = ParserLUTFactory::GetParser(text);
     ASSERT_TRUE(parser);
-    auto const before = allocated.load();
+    auto const before = AllocatedBytes();
     auto const table = parser->Parse(text);
-    auto const after = allocated.load();
+    auto const after = AllocatedBytes();
     EXPECT_EQ(table->entries.size(), count);
     EXPECT_GE(after - before, count * sizeof(Color));
     EXPECT_LT(after - before, count * sizeof(Color) + allowance);
