@@ -3,6 +3,7 @@
 
 # Installed, below the include folder of the package.
 set(EDITOREFFECTS_PUBLIC_HEADERS
+  collection/Effects/ContentProvider.h
   effects/Base.h
   effects/ColorCorrection.h
   effects/EffectClass.h
@@ -31,7 +32,8 @@ target_sources(EditorEffectsObjects PRIVATE effects/Identity.cpp)
 add_families(${hidden_families})
 target_sources(EditorEffectsObjects PRIVATE
   effects/PrivateIdentity.cpp
-  collection/Effects/SettingsFactory.cpp)
+  collection/Effects/SettingsFactory.cpp
+  collection/Effects/ContentProvider.cpp)
 target_include_directories(EditorEffectsObjects PUBLIC "$<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>")
 target_link_libraries(EditorEffectsObjects
   PUBLIC

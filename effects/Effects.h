@@ -2,6 +2,7 @@
 /// Everything that the library exports.
 #pragma once
 
+#include <collection/Effects/ContentProvider.h>
 #include <effects/Base.h>
 #include <effects/ColorCorrection.h>
 #include <effects/Identity.h>

@@ -1,0 +1,96 @@
+#include "RenderHost.h"
+
+#include <collection/Effects/ContentProvider.h>
+#include <EditorSerialization/JsonArchive.h>
+#include <Settings/Settings.h>
+#include <Settings/Trace.h>
+
+#include <QGuiApplication>
+
+#include <glog/logging.h>
+
+namespace Host {
+
+using nlohmann::json;
+
+namespace {
+
+/// Takes the library's messages while it lives.
+class Messages final : private google::LogSink
+{
+public:
+    Messages() { google::AddLogSink(this); }
+    ~Messages() override { google::RemoveLogSink(this); }
+
+    json lines = json::array();
+
+private:
+    void send(google::LogSeverity severity, char const *, char const *, int, tm const *, char const * message,
+        std::size_t length) override
+    {
+        if (severity >= google::GLOG_ERROR)
+            lines.push_back(std::string(message, length));
+    }
+};
+
+json toJson(Quoril::Proc::Value const & value)
+{
+    using Value = Quoril::Proc::Value;
+    return std::visit(
+        [](auto const & data) -> json {
+            using Data = std::decay_t<decltype(data)>;
+            json converted;
+            if constexpr (std::is_same_v<Data, Value::List>) {
+                converted = json::array();
+                for (Value const & element : data)
+                    converted.push_back(toJson(element));
+            } else if constexpr (std::is_same_v<Data, Value::Object>) {
+                converted = json::object();
+                for (auto const & [key, element] : data)
+                    converted[key] = toJson(element);
+            } else if constexpr (!std::is_same_v<Data, std::nullptr_t>) {
+                // In the archives' forms, which have one for every number and text.
+                Serialize::Json::Detail::save(converted, data);
+            }
+            return converted;
+        },
+        value.data());
+}
+
+} // namespace
+
+struct RenderHost::State
+{
+    // Pictures cannot be made without an application.
+    int argumentCount = 1;
+    char name[10] = "effectctl";
+    char * arguments[2] = {name, nullptr};
+    QGuiApplication application{argumentCount, arguments};
+    Effect::ContentProvider provider;
+};
+
+RenderHost::RenderHost()
+    : m_state(std::make_unique<State>())
+{
+}
+
+RenderHost::~RenderHost() = default;
+
+json RenderHost::convert(Effect::Object const & effect, RenderParams const & params)
+{
+    // What is logged goes into the record, and nowhere else.
+    FLAGS_stderrthreshold = google::NUM_SEVERITIES;
+    Messages messages;
+    Quoril::Proc::Trace const trace;
+    bool const isAudio = params.as.value_or(effect.type()) == Effect::Type::Audio;
+    auto const record = isAudio ? Effect::Factory::audioEffectSettings(effect, params.audio)
+                                : Effect::Factory::videoEffectSettings(effect, params.video);
+    json settings = json::array();
+    for (auto const & one : record.settings)
+        settings.push_back(toJson(trace.describe(*one)));
+    return {{"class", effect.GetNameInArchive()}, {"stageCode", record.stageCode},
+        {"implementation", record.implementation}, {"settings", std::move(settings)},
+        {"log", std::move(messages.lines)}};
+}
+
+} // namespace Host

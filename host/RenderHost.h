@@ -1,0 +1,38 @@
+/// @file
+/// The part of an editor that renders: it brings the library up and asks for settings.
+#pragma once
+
+#include <memory>
+#include <optional>
+
+#include <EditorModel/EffectFactory.h>
+
+#include <nlohmann/json.hpp>
+
+namespace Host {
+
+/// What an effect is converted for.
+struct RenderParams
+{
+    Effect::Factory::VideoParams video;
+    Effect::Factory::AudioParams audio;
+    std::optional<Effect::Type> as; ///< the operation of the factory; the effect's own type when absent
+};
+
+/// The library at work, without a catalogue. One at a time.
+class RenderHost
+{
+public:
+    RenderHost();
+    ~RenderHost();
+
+    /// The record of one effect: `class`, `stageCode`, `implementation`, `settings` with the setter calls in the order
+    /// made and the public data members, and `log`, what the factory had to say.
+    nlohmann::json convert(Effect::Object const & effect, RenderParams const & params);
+
+private:
+    struct State;
+    std::unique_ptr<State> m_state;
+};
+
+} // namespace Host
