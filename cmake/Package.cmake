@@ -40,22 +40,13 @@ endif()
 
 set_target_properties(EditorEffects PROPERTIES
   EXPORT_NAME Effects
-  VERSION ${PROJECT_VERSION}
-  SOVERSION ${PROJECT_VERSION_MAJOR}
   INSTALL_RPATH "$ORIGIN/${platform_from_lib}"
   INSTALL_RPATH_USE_LINK_PATH ${platform_elsewhere})
 install(TARGETS EditorEffects EXPORT EditorEffectsTargets
-  LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}" COMPONENT runtime NAMELINK_COMPONENT development
-  INCLUDES DESTINATION "${EDITOR_INCLUDEDIR}")
+  LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}" COMPONENT runtime NAMELINK_COMPONENT development)
 
-# Headers keep their folders; generated ones stand in the build tree below include/.
 foreach(header IN LISTS EDITOREFFECTS_PUBLIC_HEADERS)
-  cmake_path(IS_ABSOLUTE header generated)
-  set(relative "${header}")
-  if(generated)
-    cmake_path(RELATIVE_PATH relative BASE_DIRECTORY "${PROJECT_BINARY_DIR}/include")
-  endif()
-  cmake_path(GET relative PARENT_PATH folder)
+  cmake_path(GET header PARENT_PATH folder)
   install(FILES "${header}" DESTINATION "${EDITOR_INCLUDEDIR}/${folder}" COMPONENT development)
 endforeach()
 
