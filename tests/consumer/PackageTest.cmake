@@ -53,7 +53,7 @@ endfunction()
 function(use_platform prefix)
   run(ignored "${CMAKE_COMMAND}" -S "${SOURCE_DIR}" -B "${work}/system-build" -G "${GENERATOR}"
     "-DCMAKE_PREFIX_PATH=${prefix}" "-DCMAKE_CXX_COMPILER=${CXX}" -DEDITOREFFECTS_PLATFORM=system
-    -DEDITOREFFECTS_TESTS=OFF -DEDITOREFFECTS_FUZZERS=OFF)
+    -DEDITOREFFECTS_FUZZERS=OFF)
 endfunction()
 
 # No installed text names a place that the user of the package does not have.
