@@ -61,5 +61,4 @@ target_link_libraries(EditorEffects
     Editor::FileSystem glog::glog)
 set_target_properties(EditorEffects PROPERTIES
   VERSION ${PROJECT_VERSION}
-  SOVERSION ${PROJECT_VERSION_MAJOR}
-  INSTALL_RPATH "$ORIGIN/EditorEffects")
+  SOVERSION ${PROJECT_VERSION_MAJOR})
