@@ -6,10 +6,13 @@ set(EDITOREFFECTS_PUBLIC_HEADERS
   collection/Effects/ContentProvider.h
   effects/Base.h
   effects/ColorCorrection.h
+  effects/Composition.h
   effects/EffectClass.h
   effects/Effects.h
   effects/Export.h
-  effects/Identity.h)
+  effects/Geometry.h
+  effects/Identity.h
+  effects/Mask.h)
 
 # A family is a source of each of three kinds, of its own name. Static initialisers run in this order: the exported
 # classes and their constants, then the hidden ones.

@@ -5,4 +5,7 @@
 #include <collection/Effects/ContentProvider.h>
 #include <effects/Base.h>
 #include <effects/ColorCorrection.h>
+#include <effects/Composition.h>
+#include <effects/Geometry.h>
 #include <effects/Identity.h>
+#include <effects/Mask.h>

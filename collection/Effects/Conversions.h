@@ -11,7 +11,11 @@
 
 #include <EditorModel/EffectFactory.h>
 #include <effects/Effects.h>
+#include <effects/Mirroring.h>
 #include <Settings/SettingsColor.h>
+#include <Settings/SettingsComposition.h>
+#include <Settings/SettingsMask.h>
+#include <Settings/SettingsTransform.h>
 
 namespace Effect::Factory {
 
@@ -60,10 +64,22 @@ void fill(Proc::SettingsEffectAutoWhiteBalance &, WhiteBalance const &, VideoPar
 EffectSettings convertManualEnhance(Object const &, VideoParams const &);
 
 // Geometry and mirroring.
+void fill(Proc::SettingsEffectTransform &, Crop const &, VideoParams const &);
+void fill(Proc::SettingsEffectTransform &, Transpose const &, VideoParams const &);
+void fill(Proc::SettingsEffectFixVertVideo &, FixVertVideo const &, VideoParams const &);
+void fill(Proc::SettingsEffectTransform &, Flip const &, VideoParams const &);
+void fill(Proc::SettingsEffectMirror &, Mirror const &, VideoParams const &);
 
 // Composition.
+EffectSettings convertPictureInPicture(Object const &, VideoParams const &);
+void fill(Proc::SettingsEffectSubFrame &, SideBySide const &, VideoParams const &);
+void fill(Proc::SettingsEffectOpacity &, Opacity const &, VideoParams const &);
+void fill(Proc::SettingsEffectChromakey &, ChromaKey const &, VideoParams const &);
+void fill(Proc::SettingsEffectColorBlender &, Overlay const &, VideoParams const &);
+void fill(Proc::SettingsEffectColorBlender &, ColorBlending const &, VideoParams const &);
 
 // Mask.
+EffectSettings convertMask(Object const &, VideoParams const &);
 
 // Lookup tables and shaders.
 

@@ -5,6 +5,7 @@
 
 #include <collection/Effects/Conversions.h>
 #include <ConfInt/ImplNames.h>
+#include <effects/PrivateIdentity.h>
 
 #include <QMap>
 
@@ -109,6 +110,20 @@ EffectSettings SettingsFactory::createVideoEffectSettings(Object const & effect,
         {Id::WhiteBalance, video<WhiteBalance, Proc::SettingsEffectAutoWhiteBalance>(Stage::oneButton)},
         {Id::MagicEnhance, bareVideo<MagicEnhance, Proc::SettingsEffectMagicEnhance2>(Stage::oneButton)},
         {Id::ManualEnhance, convertManualEnhance},
+        {Id::Flip, video<Flip, Proc::SettingsEffectTransform>()},
+        {Id::Mirror, video<Mirror, Proc::SettingsEffectMirror>()},
+        {Id::PictureInPicture, convertPictureInPicture},
+        {Id::SideBySide, video<SideBySide, Proc::SettingsEffectSubFrame>()},
+        {Id::ChromaKey, video<ChromaKey, Proc::SettingsEffectChromakey>()},
+        {Id::Opacity, video<Opacity, Proc::SettingsEffectOpacity>()},
+        {Id::Crop, video<Crop, Proc::SettingsEffectTransform>()},
+        {Id::Mask, convertMask},
+        {Id::Transpose, video<Transpose, Proc::SettingsEffectTransform>()},
+        {Id::FixVertVideo, video<FixVertVideo, Proc::SettingsEffectFixVertVideo>()},
+        {Id::Overlay, video<Overlay, Proc::SettingsEffectColorBlender>()},
+        {Id::ColorBlending, video<ColorBlending, Proc::SettingsEffectColorBlender>()},
+        {Id::AlphaInserter,
+            bareVideo<AlphaInserter, Proc::SettingsEffectAlphaInserter>(Stage::openGl, Proc::ImplNames::OGL)},
     };
     return lookUp(table, effect, params);
 }
