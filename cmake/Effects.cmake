@@ -4,11 +4,16 @@
 # Installed, below the include folder of the package.
 set(EDITOREFFECTS_PUBLIC_HEADERS
   effects/Base.h
+  effects/CleanUp.h
   effects/ColorCorrection.h
+  effects/Dynamics.h
   effects/EffectClass.h
   effects/Effects.h
+  effects/Equalizer.h
   effects/Export.h
-  effects/Identity.h)
+  effects/Holder.h
+  effects/Identity.h
+  effects/Modulation.h)
 
 # A family is a source of each of three kinds, of its own name. Static initialisers run in this order: the exported
 # classes and their constants, then the hidden ones.

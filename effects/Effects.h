@@ -3,5 +3,10 @@
 #pragma once
 
 #include <effects/Base.h>
+#include <effects/CleanUp.h>
 #include <effects/ColorCorrection.h>
+#include <effects/Dynamics.h>
+#include <effects/Equalizer.h>
+#include <effects/Holder.h>
 #include <effects/Identity.h>
+#include <effects/Modulation.h>
