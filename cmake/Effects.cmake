@@ -5,14 +5,20 @@
 set(EDITOREFFECTS_PUBLIC_HEADERS
   collection/Effects/ContentProvider.h
   effects/Base.h
+  effects/CleanUp.h
   effects/ColorCorrection.h
   effects/Composition.h
+  effects/Dynamics.h
   effects/EffectClass.h
   effects/Effects.h
+  effects/Equalizer.h
   effects/Export.h
   effects/Geometry.h
   effects/Identity.h
   effects/Mask.h)
+  effects/Holder.h
+  effects/Identity.h
+  effects/Modulation.h)
 
 # A family is a source of each of three kinds, of its own name. Static initialisers run in this order: the exported
 # classes and their constants, then the hidden ones.

@@ -50,6 +50,10 @@ public:
 /// Defines what `EFFECT_FILTER_CLASS` declares.
 #define EFFECT_FILTER(Class, Base, Identifier, Tag)                                                                    \
     EFFECT_CONSTRUCTOR(Class, Base, Identifier, Identifier, Tag)                                                       \
+    EFFECT_FILTER_OVERRIDES(Class, Tag)
+
+/// The same but the constructor.
+#define EFFECT_FILTER_OVERRIDES(Class, Tag)                                                                            \
     EFFECT_DEFAULT_TAG(Class, Tag)                                                                                     \
     bool Class::hasIntensity() const                                                                                   \
     {                                                                                                                  \

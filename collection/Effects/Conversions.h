@@ -6,12 +6,15 @@
 #pragma once
 
 #include <cstdint>
+#include <limits>
 #include <memory>
 #include <string>
 
 #include <EditorModel/EffectFactory.h>
 #include <effects/Effects.h>
 #include <effects/Mirroring.h>
+#include <effects/Voice.h>
+#include <Settings/SettingsAudio.h>
 #include <Settings/SettingsColor.h>
 #include <Settings/SettingsComposition.h>
 #include <Settings/SettingsMask.h>
@@ -59,6 +62,15 @@ template <class Enum> constexpr int knownValue(Enum value, int count, int fallba
     return number >= 0 && number < count ? number : fallback;
 }
 
+/// A number truncated to an integer, or the nearest integer that there is. What is no number counts as the lowest.
+constexpr int saturatedInt(double number)
+{
+    using Limits = std::numeric_limits<int>;
+    if (number >= Limits::max())
+        return Limits::max();
+    return number > Limits::min() ? static_cast<int>(number) : Limits::min();
+}
+
 // Colour correction.
 void fill(Proc::SettingsEffectAutoWhiteBalance &, WhiteBalance const &, VideoParams const &);
 EffectSettings convertManualEnhance(Object const &, VideoParams const &);
@@ -96,13 +108,28 @@ EffectSettings convertMask(Object const &, VideoParams const &);
 // Light and particles.
 
 // Equalizer.
+void fill(Proc::SettingsAudioEqualizer &, AudioEqualizer const &, AudioParams const &);
 
 // Dynamics.
+void fill(Proc::SettingsAudioGate &, AudioNoiseGate const &, AudioParams const &);
+void fill(Proc::SettingsAudioCompressor &, AudioCompressor const &, AudioParams const &);
 
 // Modulation and space.
+void fill(Proc::SettingsAudioDistortion &, AudioDistortion const &, AudioParams const &);
+void fill(Proc::SettingsAudioReverberationImpulseResponse &, AudioReverb const &, AudioParams const &);
+void fill(Proc::SettingsAudioFlanger &, AudioFlanger const &, AudioParams const &);
+void fill(Proc::SettingsAudioVibrato &, AudioVibrato const &, AudioParams const &);
 
 // Voice.
+void fill(Proc::SettingsAudioEqualizer &, AudioPhone const &, AudioParams const &);
+void fill(Proc::SettingsAudioEqualizer &, AudioMuffle const &, AudioParams const &);
+void fill(Proc::SettingsAudioRadio &, AudioRadio const &, AudioParams const &);
+void fill(Proc::SettingsAudioEcho &, AudioEcho const &, AudioParams const &);
+void fill(Proc::SettingsAudioPitch &, AudioPitch const &, AudioParams const &);
+void fill(Proc::SettingsAudioRobot &, AudioRobot const &, AudioParams const &);
 
 // Clean-up.
+void fill(Proc::SettingsAudioNoiseSuppress &, AudioNoiseSuppress const &, AudioParams const &);
+void fill(Proc::SettingsFilterResample &, AudioMonoChannel const &, AudioParams const &);
 
 } // namespace Effect::Factory

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include <collection/Effects/Conversions.h>
+#include <effects/PrivateIdentity.h>
 #include <ConfInt/ImplNames.h>
 #include <effects/PrivateIdentity.h>
 
@@ -63,6 +64,12 @@ Conversion<VideoParams> bareVideo(
         [stageCode, &implementation](Effect const &, std::unique_ptr<Settings> settings, VideoParams const &) {
             return makeEffectSettings(std::move(settings), stageCode, implementation);
         });
+}
+
+template <class Effect, class Settings>
+Conversion<AudioParams> audio(std::string const & implementation = Proc::ImplNames::DEFAULT)
+{
+    return row<Effect, Settings, AudioParams>(Stage::audio, implementation);
 }
 
 template <class Params>
@@ -130,7 +137,23 @@ EffectSettings SettingsFactory::createVideoEffectSettings(Object const & effect,
 
 EffectSettings SettingsFactory::createAudioEffectSettings(Object const & effect, AudioParams const & params)
 {
-    static Table<AudioParams> const table{};
+    static Table<AudioParams> const table{
+        {Id::AudioEqualizer, audio<AudioEqualizer, Proc::SettingsAudioEqualizer>()},
+        {Id::AudioRadio, audio<AudioRadio, Proc::SettingsAudioRadio>()},
+        {Id::AudioPhone, audio<AudioPhone, Proc::SettingsAudioEqualizer>()},
+        {Id::AudioMuffle, audio<AudioMuffle, Proc::SettingsAudioEqualizer>()},
+        {Id::AudioEcho, audio<AudioEcho, Proc::SettingsAudioEcho>()},
+        {Id::AudioPitch, audio<AudioPitch, Proc::SettingsAudioPitch>()},
+        {Id::AudioRobot, audio<AudioRobot, Proc::SettingsAudioRobot>()},
+        {Id::Distortion, audio<AudioDistortion, Proc::SettingsAudioDistortion>()},
+        {Id::Reverb, audio<AudioReverb, Proc::SettingsAudioReverberationImpulseResponse>()},
+        {Id::NoiseGate, audio<AudioNoiseGate, Proc::SettingsAudioGate>()},
+        {Id::Compressor, audio<AudioCompressor, Proc::SettingsAudioCompressor>()},
+        {Id::Flanger, audio<AudioFlanger, Proc::SettingsAudioFlanger>()},
+        {Id::Vibrato, audio<AudioVibrato, Proc::SettingsAudioVibrato>()},
+        {Id::NoiseSuppress, audio<AudioNoiseSuppress, Proc::SettingsAudioNoiseSuppress>(Proc::ImplNames::SPEEX)},
+        {Id::AudioMonoChannel, audio<AudioMonoChannel, Proc::SettingsFilterResample>()},
+    };
     return lookUp(table, effect, params);
 }
 
