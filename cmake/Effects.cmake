@@ -31,6 +31,7 @@ target_sources(EditorEffectsObjects PRIVATE effects/Identity.cpp)
 add_families(${hidden_families})
 target_sources(EditorEffectsObjects PRIVATE
   effects/PrivateIdentity.cpp
+  collection/Effects/ImageHolder.cpp
   collection/Effects/SettingsFactory.cpp)
 target_include_directories(EditorEffectsObjects PUBLIC "$<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>")
 target_link_libraries(EditorEffectsObjects

@@ -5,6 +5,8 @@
 /// unless the engine wants them narrower; what a field means to the engine is told with the effect.
 #pragma once
 
+#include <algorithm>
+#include <cstddef>
 #include <cstdint>
 #include <memory>
 #include <string>
@@ -16,6 +18,8 @@
 namespace Effect::Factory {
 
 namespace Proc = Quoril::Proc;
+
+struct VideoContext; // collection/Effects/FactoryCaches.h
 
 /// Codes that the engine receives with the settings.
 namespace Stage {
@@ -53,6 +57,20 @@ template <class Enum> constexpr int knownValue(Enum value, int count, int fallba
 {
     int const number = static_cast<int>(value);
     return number >= 0 && number < count ? number : fallback;
+}
+
+/// A preset's row in a table of presets; null when the table has none.
+template <class Row, std::size_t size, class Enum> constexpr Row const * knownRow(Row const (&table)[size], Enum preset)
+{
+    int const index = knownValue(preset, static_cast<int>(size), -1);
+    return index < 0 ? nullptr : table + index;
+}
+
+/// A preset's row in a table of presets; the first or the last for a preset before or beyond them.
+template <class Row, std::size_t size, class Enum>
+constexpr Row const & nearestRow(Row const (&table)[size], Enum preset)
+{
+    return table[std::clamp(static_cast<int>(preset), 0, static_cast<int>(size) - 1)];
 }
 
 // Colour correction.
