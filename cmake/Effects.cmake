@@ -43,6 +43,8 @@ target_sources(EditorEffectsObjects PRIVATE
   effects/PrivateIdentity.cpp
   collection/Effects/SettingsFactory.cpp
   collection/Effects/ContentProvider.cpp)
+  collection/Effects/ImageHolder.cpp
+  collection/Effects/SettingsFactory.cpp)
 target_include_directories(EditorEffectsObjects PUBLIC "$<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>")
 target_link_libraries(EditorEffectsObjects
   PUBLIC

@@ -60,6 +60,10 @@ public:
         return true;                                                                                                   \
     }
 
+/// The same for a video effect whose identifier and tag are named after it. It goes with a family's list in
+/// effects/ClassList.h.
+#define EFFECT_VIDEO_FILTER(Class) EFFECT_FILTER(Class, VideoEffect, Id::Class, Tags::tag##Class)
+
 /// Defines a class's `defaultTag`.
 #define EFFECT_DEFAULT_TAG(Class, Tag)                                                                                 \
     QString Class::defaultTag() const                                                                                  \

@@ -7,11 +7,10 @@
 #include <effects/CleanUp.h>
 #include <effects/ColorCorrection.h>
 #include <effects/Composition.h>
-#include <effects/Geometry.h>
-#include <effects/Identity.h>
-#include <effects/Mask.h>
 #include <effects/Dynamics.h>
 #include <effects/Equalizer.h>
+#include <effects/Geometry.h>
 #include <effects/Holder.h>
 #include <effects/Identity.h>
+#include <effects/Mask.h>
 #include <effects/Modulation.h>

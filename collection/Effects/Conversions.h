@@ -5,6 +5,8 @@
 /// unless the engine wants them narrower; what a field means to the engine is told with the effect.
 #pragma once
 
+#include <algorithm>
+#include <cstddef>
 #include <cstdint>
 #include <limits>
 #include <memory>
@@ -23,6 +25,8 @@
 namespace Effect::Factory {
 
 namespace Proc = Quoril::Proc;
+
+struct VideoContext; // collection/Effects/FactoryCaches.h
 
 /// Codes that the engine receives with the settings.
 namespace Stage {
@@ -69,6 +73,18 @@ constexpr int saturatedInt(double number)
     if (number >= Limits::max())
         return Limits::max();
     return number > Limits::min() ? static_cast<int>(number) : Limits::min();
+/// A preset's row in a table of presets; null when the table has none.
+template <class Row, std::size_t size, class Enum> constexpr Row const * knownRow(Row const (&table)[size], Enum preset)
+{
+    int const index = knownValue(preset, static_cast<int>(size), -1);
+    return index < 0 ? nullptr : table + index;
+}
+
+/// A preset's row in a table of presets; the first or the last for a preset before or beyond them.
+template <class Row, std::size_t size, class Enum>
+constexpr Row const & nearestRow(Row const (&table)[size], Enum preset)
+{
+    return table[std::clamp(static_cast<int>(preset), 0, static_cast<int>(size) - 1)];
 }
 
 // Colour correction.

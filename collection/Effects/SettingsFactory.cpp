@@ -5,6 +5,7 @@
 
 #include <collection/Effects/Conversions.h>
 #include <effects/PrivateIdentity.h>
+#include <collection/Effects/FactoryCaches.h>
 #include <ConfInt/ImplNames.h>
 #include <effects/PrivateIdentity.h>
 
@@ -49,19 +50,19 @@ Conversion<Params> row(std::uint8_t stageCode, std::string const & implementatio
 }
 
 template <class Effect, class Settings>
-Conversion<VideoParams> video(
+Conversion<VideoContext> video(
     std::uint8_t stageCode = Stage::video, std::string const & implementation = Proc::ImplNames::DEFAULT)
 {
-    return row<Effect, Settings, VideoParams>(stageCode, implementation);
+    return row<Effect, Settings, VideoContext>(stageCode, implementation);
 }
 
 /// A conversion that leaves its settings object as it was made.
 template <class Effect, class Settings>
-Conversion<VideoParams> bareVideo(
+Conversion<VideoContext> bareVideo(
     std::uint8_t stageCode = Stage::video, std::string const & implementation = Proc::ImplNames::DEFAULT)
 {
-    return wrap<Effect, Settings, VideoParams>(
-        [stageCode, &implementation](Effect const &, std::unique_ptr<Settings> settings, VideoParams const &) {
+    return wrap<Effect, Settings, VideoContext>(
+        [stageCode, &implementation](Effect const &, std::unique_ptr<Settings> settings, VideoContext const &) {
             return makeEffectSettings(std::move(settings), stageCode, implementation);
         });
 }
@@ -93,9 +94,9 @@ EffectSettings lookUp(Table<Params> const & table, Object const & effect, Params
 
 } // namespace
 
-/// What a factory has loaded so far, by name.
 struct SettingsFactory::Impl
 {
+    FactoryCaches caches;
 };
 
 SettingsFactory::SettingsFactory()
@@ -111,7 +112,7 @@ SettingsFactory::~SettingsFactory()
 
 EffectSettings SettingsFactory::createVideoEffectSettings(Object const & effect, VideoParams const & params)
 {
-    static Table<VideoParams> const table{
+    static Table<VideoContext> const table{
         {Id::AutoContrast, bareVideo<AutoContrast, Proc::SettingsEffectAutoContrast>(Stage::oneButton)},
         {Id::AutoSaturation, bareVideo<AutoSaturation, Proc::SettingsEffectSaturation>(Stage::oneButton)},
         {Id::WhiteBalance, video<WhiteBalance, Proc::SettingsEffectAutoWhiteBalance>(Stage::oneButton)},
@@ -132,7 +133,7 @@ EffectSettings SettingsFactory::createVideoEffectSettings(Object const & effect,
         {Id::AlphaInserter,
             bareVideo<AlphaInserter, Proc::SettingsEffectAlphaInserter>(Stage::openGl, Proc::ImplNames::OGL)},
     };
-    return lookUp(table, effect, params);
+    return lookUp(table, effect, VideoContext(params, m_impl->caches));
 }
 
 EffectSettings SettingsFactory::createAudioEffectSettings(Object const & effect, AudioParams const & params)
