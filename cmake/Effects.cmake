@@ -14,11 +14,11 @@ set(EDITOREFFECTS_PUBLIC_HEADERS
   effects/Equalizer.h
   effects/Export.h
   effects/Geometry.h
-  effects/Identity.h
-  effects/Mask.h)
   effects/Holder.h
   effects/Identity.h
-  effects/Modulation.h)
+  effects/Mask.h
+  effects/Modulation.h
+)
 
 # A family is a source of each of three kinds, of its own name. Static initialisers run in this order: the exported
 # classes and their constants, then the hidden ones.
@@ -41,10 +41,10 @@ target_sources(EditorEffectsObjects PRIVATE effects/Identity.cpp)
 add_families(${hidden_families})
 target_sources(EditorEffectsObjects PRIVATE
   effects/PrivateIdentity.cpp
-  collection/Effects/SettingsFactory.cpp
-  collection/Effects/ContentProvider.cpp)
+  collection/Effects/ContentProvider.cpp
   collection/Effects/ImageHolder.cpp
-  collection/Effects/SettingsFactory.cpp)
+  collection/Effects/SettingsFactory.cpp
+)
 target_include_directories(EditorEffectsObjects PUBLIC "$<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>")
 target_link_libraries(EditorEffectsObjects
   PUBLIC

@@ -73,6 +73,8 @@ constexpr int saturatedInt(double number)
     if (number >= Limits::max())
         return Limits::max();
     return number > Limits::min() ? static_cast<int>(number) : Limits::min();
+}
+
 /// A preset's row in a table of presets; null when the table has none.
 template <class Row, std::size_t size, class Enum> constexpr Row const * knownRow(Row const (&table)[size], Enum preset)
 {

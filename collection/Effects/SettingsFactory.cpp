@@ -4,7 +4,6 @@
 #include <utility>
 
 #include <collection/Effects/Conversions.h>
-#include <effects/PrivateIdentity.h>
 #include <collection/Effects/FactoryCaches.h>
 #include <ConfInt/ImplNames.h>
 #include <effects/PrivateIdentity.h>
