@@ -1,13 +1,14 @@
 #include <effects/Identity.h>
 #include <effects/Modulation.h>
-#include <support/Document.h>
+#include <support/Documents.h>
 
 #include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
 
 namespace {
 
 using namespace Effect;
-using Testing::expectDocument;
+using Testing::expectKeys;
 
 TEST(Modulation, Identity)
 {
@@ -75,25 +76,25 @@ TEST(Modulation, Archives)
     flanger.regen = 0.25;
     flanger.speed = 1.5;
     flanger.phase = 90;
-    expectDocument(flanger, R"("delay":9007199254740993,"depth":3,"interpolation":-7,"phase":90.0,"regen":0.25,)"
-                            R"("shape":7,"speed":1.5})");
+    expectKeys(flanger, R"({"delay": 9007199254740993, "depth": 3, "interpolation": -7, "phase": 90.0,
+        "regen": 0.25, "shape": 7, "speed": 1.5})"_json);
 
     AudioVibrato vibrato;
     vibrato.frequencyHz = 7.25;
-    expectDocument(vibrato, R"("frequencyHz":7.25})");
+    expectKeys(vibrato, R"({"frequencyHz": 7.25})"_json);
 
     AudioDistortion distortion;
     distortion.type = AudioDistortion::Kind{4};
     distortion.boost = 0.75;
     distortion.tone = 0.25;
-    expectDocument(distortion, R"("boost":0.75,"tone":0.25,"type":4})");
+    expectKeys(distortion, R"({"boost": 0.75, "tone": 0.25, "type": 4})"_json);
 
     AudioReverb reverb;
     reverb.delay = 1;
     reverb.duration = 2;
     reverb.dryWetBalance = -0.5;
     reverb.frequency = 3;
-    expectDocument(reverb, R"("delay":1,"dryWetBalance":-0.5,"duration":2,"frequency":3})");
+    expectKeys(reverb, R"({"delay": 1, "dryWetBalance": -0.5, "duration": 2, "frequency": 3})"_json);
 }
 
 } // namespace

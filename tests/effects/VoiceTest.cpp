@@ -1,13 +1,14 @@
 #include <effects/PrivateIdentity.h>
 #include <effects/Voice.h>
-#include <support/Document.h>
+#include <support/Documents.h>
 
 #include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
 
 namespace {
 
 using namespace Effect;
-using Testing::expectDocument;
+using Testing::expectKeys;
 
 TEST(Voice, Identity)
 {
@@ -79,29 +80,30 @@ TEST(Voice, Archives)
     phone.gainDown = 2;
     phone.lBound = 3;
     phone.rBound = 4;
-    expectDocument(phone, R"("gainDown":2,"gainUp":1,"lBound":3,"rBound":4})");
+    expectKeys(phone, R"({"gainDown": 2, "gainUp": 1, "lBound": 3, "rBound": 4})"_json);
 
     AudioMuffle muffle;
     muffle.gainUp = 1;
     muffle.gainDown = 2;
     muffle.mean = 3;
     muffle.dispersion = 4.5;
-    expectDocument(muffle, R"("dispersion":4.5,"gainDown":2,"gainUp":1,"mean":3})");
+    expectKeys(muffle, R"({"dispersion": 4.5, "gainDown": 2, "gainUp": 1, "mean": 3})"_json);
 
     // The short keys are those of saved effects.
     AudioRadio radio;
     radio.cracklePrecision = 5;
     radio.noiseLevel = 0.5;
-    expectDocument(radio, R"("crackleP":5,"gainDown":0,"gainUp":0,"lBound":20,"noise":0.5,"rBound":20000})");
+    expectKeys(radio, R"({"crackleP": 5, "gainDown": 0, "gainUp": 0, "lBound": 20, "noise": 0.5,
+        "rBound": 20000})"_json);
 
     AudioPitch pitch;
     pitch.pitch = 1.5;
-    expectDocument(pitch, R"("pitch":1.5})");
+    expectKeys(pitch, R"({"pitch": 1.5})"_json);
 
     AudioRobot robot;
     robot.level = 0.5;
     robot.pitch = 0.75;
-    expectDocument(robot, R"("level":0.5,"pitch":0.75})");
+    expectKeys(robot, R"({"level": 0.5, "pitch": 0.75})"_json);
 }
 
 TEST(Voice, EchosKeepTheirOrder)
@@ -110,10 +112,10 @@ TEST(Voice, EchosKeepTheirOrder)
     echo.gainIn = 0.5;
     echo.gainOut = 0.25;
     echo.echos = {{300, 0.75}, {100, 0.5}, {200, 0.25}};
-    expectDocument(echo,
-        R"("echos":[{"$meta":{"class":"Effect::AudioEcho::Echo"},"decay":0.75,"delay":300},)"
-        R"({"$meta":{"class":"Effect::AudioEcho::Echo"},"decay":0.5,"delay":100},)"
-        R"({"$meta":{"class":"Effect::AudioEcho::Echo"},"decay":0.25,"delay":200}],"gainIn":0.5,"gainOut":0.25})");
+    expectKeys(echo, R"({"echos": [{"$meta": {"class": "Effect::AudioEcho::Echo"}, "decay": 0.75, "delay": 300},
+        {"$meta": {"class": "Effect::AudioEcho::Echo"}, "decay": 0.5, "delay": 100},
+        {"$meta": {"class": "Effect::AudioEcho::Echo"}, "decay": 0.25, "delay": 200}],
+        "gainIn": 0.5, "gainOut": 0.25})"_json);
 }
 
 } // namespace
