@@ -86,20 +86,6 @@ template <class Enum> constexpr int knownValue(Enum value, int count, int fallba
     return isKnown(value, count) ? static_cast<int>(value) : fallback;
 }
 
-/// A preset's row in a table of presets; null when the table has none.
-template <class Row, std::size_t size, class Enum> constexpr Row const * knownRow(Row const (&table)[size], Enum preset)
-{
-    int const index = knownValue(preset, static_cast<int>(size), -1);
-    return index < 0 ? nullptr : table + index;
-}
-
-/// A preset's row in a table of presets; the first or the last for a preset before or beyond them.
-template <class Row, std::size_t size, class Enum>
-constexpr Row const & nearestRow(Row const (&table)[size], Enum preset)
-{
-    return table[std::clamp(static_cast<int>(preset), 0, static_cast<int>(size) - 1)];
-}
-
 /// A number truncated to an integer, or the nearest integer that there is. What is no number counts as the lowest.
 constexpr int saturatedInt(double number)
 {
