@@ -127,10 +127,14 @@ EffectSettings SettingsFactory::createVideoEffectSettings(Object const & effect,
         {Id::Mask, convertMask},
         {Id::Transpose, video<Transpose, Proc::SettingsEffectTransform>()},
         {Id::FixVertVideo, video<FixVertVideo, Proc::SettingsEffectFixVertVideo>()},
+        {Id::ExternalShader,
+            video<ExternalShader, Proc::SettingsEffectTemplateQES>(Stage::openGl, Proc::ImplNames::OGL)},
         {Id::Overlay, video<Overlay, Proc::SettingsEffectColorBlender>()},
         {Id::ColorBlending, video<ColorBlending, Proc::SettingsEffectColorBlender>()},
         {Id::AlphaInserter,
             bareVideo<AlphaInserter, Proc::SettingsEffectAlphaInserter>(Stage::openGl, Proc::ImplNames::OGL)},
+        {Id::Lut, video<Lut, Proc::SettingsEffectLUT>()},
+        {Id::ShaderISF, video<ShaderISF, Proc::SettingsEffectISF>()},
     };
     return lookUp(table, effect, VideoContext(params, m_impl->caches));
 }
