@@ -13,14 +13,21 @@
 #include <string>
 
 #include <EditorModel/EffectFactory.h>
+#include <effects/Artistic.h>
+#include <effects/ColorFilters.h>
+#include <effects/ColorMixField.h>
 #include <effects/Effects.h>
 #include <effects/Mirroring.h>
+#include <effects/Retro.h>
 #include <effects/Voice.h>
+#include <Settings/SettingsArtistic.h>
 #include <Settings/SettingsAudio.h>
 #include <Settings/SettingsColor.h>
+#include <Settings/SettingsColorFilter.h>
 #include <Settings/SettingsComposition.h>
 #include <Settings/SettingsMask.h>
 #include <Settings/SettingsShader.h>
+#include <Settings/SettingsRetro.h>
 #include <Settings/SettingsTransform.h>
 
 namespace Effect::Factory {
@@ -60,11 +67,24 @@ constexpr Channels channels(std::uint32_t color)
         static_cast<std::uint8_t>(color)};
 }
 
+/// Whether an enumeration is one of the first `count`.
+template <class Enum> constexpr bool isKnown(Enum value, int count)
+{
+    int const number = static_cast<int>(value);
+    return number >= 0 && number < count;
+}
+
+/// Copies an enumeration to the engine's of the same numbers, if it is one of the first `count`; else that one stays.
+template <class Enum, class EngineEnum> constexpr void copyKnown(Enum value, int count, EngineEnum & target)
+{
+    if (isKnown(value, count))
+        target = static_cast<EngineEnum>(value);
+}
+
 /// An enumeration's number when it is one of the first `count`, else `fallback`.
 template <class Enum> constexpr int knownValue(Enum value, int count, int fallback = 0)
 {
-    int const number = static_cast<int>(value);
-    return number >= 0 && number < count ? number : fallback;
+    return isKnown(value, count) ? static_cast<int>(value) : fallback;
 }
 
 /// A number truncated to an integer, or the nearest integer that there is. What is no number counts as the lowest.
@@ -122,10 +142,35 @@ void fill(Proc::SettingsEffectISF &, ShaderISF const &, VideoContext const &);
 // Distortion.
 
 // Artistic filters.
+void fill(Proc::SettingsEffectOilPaint &, OilPaint const &, VideoParams const &);
+void fill(Proc::SettingsEffectPopArt &, PopArt const &, VideoParams const &);
+void fill(Proc::SettingsEffectPosterize &, Posterize const &, VideoParams const &);
+void fill(Proc::SettingsEffectFindEdges &, FindEdges const &, VideoParams const &);
+void fill(Proc::SettingsEffectHalfTone &, HalfTone const &, VideoParams const &);
+void fill(Proc::SettingsEffectMosaic &, Mosaic const &, VideoParams const &);
+void fill(Proc::SettingsEffectGlassMosaic &, GlassMosaic const &, VideoParams const &);
+void fill(Proc::SettingsEffectErosion &, Erosion const &, VideoParams const &);
+void fill(Proc::SettingsEffectDiffuse &, Diffuse const &, VideoParams const &);
+void fill(Proc::SettingsEffectStripes &, Stripes const &, VideoParams const &);
+void fill(Proc::SettingsEffectAddNoize &, AddNoize const &, VideoParams const &);
 
 // Retro and glitch.
+void fill(Proc::SettingsEffectRetroArtefacts &, RetroArtefacts const &, VideoParams const &);
+void fill(Proc::SettingsEffectRetroColors &, RetroColors const &, VideoParams const &);
+void fill(Proc::SettingsEffectVHS &, VHS const &, VideoParams const &);
+void fill(Proc::SettingsEffectTelevision70s &, Television70s const &, VideoParams const &);
+void fill(Proc::SettingsEffectGlitchMpeg &, GlitchMpeg const &, VideoParams const &);
+void fill(Proc::SettingsEffectGlitchSecurityCam &, GlitchSecurityCam const &, VideoParams const &);
+void fill(Proc::SettingsEffectFilmStrip &, FilmStrip const &, VideoParams const &);
 
 // Colour filters.
+void fill(Proc::SettingsEffectColorBrush &, ColorBrush const &, VideoParams const &);
+void fill(Proc::SettingsEffectColorFilter &, ColorFilter const &, VideoParams const &);
+void fill(Proc::SettingsEffectColorMixBurn &, ColorMixBurn const &, VideoParams const &);
+void fill(Proc::SettingsEffectColorSelect &, ColorSelect const &, VideoParams const &);
+void fill(Proc::SettingsEffectColorMixExchange &, ColorMixExchange const &, VideoParams const &);
+void fill(Proc::SettingsEffectColorMixField &, ColorMixField const &, VideoParams const &);
+void fill(Proc::SettingsEffectInvert &, Invert const &, VideoParams const &);
 
 // Light and particles.
 

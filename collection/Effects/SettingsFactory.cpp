@@ -1,6 +1,7 @@
 #include <collection/Effects/SettingsFactory.h>
 
 #include <functional>
+#include <typeinfo>
 #include <utility>
 
 #include <collection/Effects/Conversions.h>
@@ -27,13 +28,19 @@ namespace {
 template <class Params> using Conversion = std::function<EffectSettings(Object const &, Params const &)>;
 template <class Params> using Table = QMap<QString, Conversion<Params>>;
 
+/// `dynamic_cast`, which throws for another class; nearly every object is of the very class that is asked for, and
+/// that is seen at a glance.
+template <class Effect> Effect const & castTo(Object const & object)
+{
+    return typeid(object) == typeid(Effect) ? static_cast<Effect const &>(object) : dynamic_cast<Effect const &>(object);
+}
+
 /// Casts the effect to its class, which throws for another one, and makes the settings object that `fillAndWrap` turns
 /// into a record.
 template <class Effect, class Settings, class Params, class Lambda> Conversion<Params> wrap(Lambda fillAndWrap)
 {
     return [fillAndWrap](Object const & object, Params const & params) {
-        auto const & effect = dynamic_cast<Effect const &>(object);
-        return fillAndWrap(effect, std::make_unique<Settings>(), params);
+        return fillAndWrap(castTo<Effect>(object), std::make_unique<Settings>(), params);
     };
 }
 
@@ -135,6 +142,31 @@ EffectSettings SettingsFactory::createVideoEffectSettings(Object const & effect,
             bareVideo<AlphaInserter, Proc::SettingsEffectAlphaInserter>(Stage::openGl, Proc::ImplNames::OGL)},
         {Id::Lut, video<Lut, Proc::SettingsEffectLUT>()},
         {Id::ShaderISF, video<ShaderISF, Proc::SettingsEffectISF>()},
+        {Id::RetroArtefacts, video<RetroArtefacts, Proc::SettingsEffectRetroArtefacts>()},
+        {Id::RetroColors, video<RetroColors, Proc::SettingsEffectRetroColors>()},
+        {Id::AddNoize, video<AddNoize, Proc::SettingsEffectAddNoize>()},
+        {Id::Invert, video<Invert, Proc::SettingsEffectInvert>()},
+        {Id::PopArt, video<PopArt, Proc::SettingsEffectPopArt>()},
+        {Id::VHS, video<VHS, Proc::SettingsEffectVHS>()},
+        {Id::Stripes, video<Stripes, Proc::SettingsEffectStripes>()},
+        {Id::Mosaic, video<Mosaic, Proc::SettingsEffectMosaic>()},
+        {Id::Posterize, video<Posterize, Proc::SettingsEffectPosterize>()},
+        {Id::FindEdges, video<FindEdges, Proc::SettingsEffectFindEdges>()},
+        {Id::OilPaint, video<OilPaint, Proc::SettingsEffectOilPaint>()},
+        {Id::GlassMosaic, video<GlassMosaic, Proc::SettingsEffectGlassMosaic>()},
+        {Id::Erosion, video<Erosion, Proc::SettingsEffectErosion>()},
+        {Id::Diffuse, video<Diffuse, Proc::SettingsEffectDiffuse>()},
+        {Id::ColorBrush, video<ColorBrush, Proc::SettingsEffectColorBrush>()},
+        {Id::FilmStrip, video<FilmStrip, Proc::SettingsEffectFilmStrip>()},
+        {Id::ColorFilter, video<ColorFilter, Proc::SettingsEffectColorFilter>()},
+        {Id::ColorMixBurn, video<ColorMixBurn, Proc::SettingsEffectColorMixBurn>()},
+        {Id::ColorSelect, video<ColorSelect, Proc::SettingsEffectColorSelect>()},
+        {Id::ColorMixExchange, video<ColorMixExchange, Proc::SettingsEffectColorMixExchange>()},
+        {Id::ColorMixField, video<ColorMixField, Proc::SettingsEffectColorMixField>()},
+        {Id::HalfTone, video<HalfTone, Proc::SettingsEffectHalfTone>()},
+        {Id::GlitchSecurityCam, video<GlitchSecurityCam, Proc::SettingsEffectGlitchSecurityCam>()},
+        {Id::GlitchMpeg, video<GlitchMpeg, Proc::SettingsEffectGlitchMpeg>()},
+        {Id::Television70s, video<Television70s, Proc::SettingsEffectTelevision70s>()},
     };
     return lookUp(table, effect, VideoContext(params, m_impl->caches));
 }

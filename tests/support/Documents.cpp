@@ -3,6 +3,8 @@
 #include <EditorModel/EffectArchive.h>
 #include <EditorSerialization/JsonArchive.h>
 
+#include <gtest/gtest.h>
+
 namespace Testing {
 
 namespace Meta = Serialize::Json::MetaDetails;
@@ -17,6 +19,14 @@ nlohmann::json ownKeys(Effect::Object const & effect)
             own[key] = value;
     }
     return own;
+}
+
+void expectKeys(Effect::Object const & effect, nlohmann::json const & keys)
+{
+    EXPECT_EQ(ownKeys(effect), keys);
+    std::string const document = Effect::Archive::toJson(effect);
+    EXPECT_EQ(Effect::Archive::toJson(*Effect::Archive::fromJson(document)), document);
+    EXPECT_EQ(Effect::Archive::toJson(*Effect::Archive::fromBinary(Effect::Archive::toBinary(effect))), document);
 }
 
 std::unique_ptr<Effect::Object> readKeys(std::string const & className, nlohmann::json keys)

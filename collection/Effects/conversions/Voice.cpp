@@ -33,7 +33,8 @@ template <class Effect> Bands bandPass(Effect const & effect)
             return 0;
         if (low < exponent && exponent < high)
             return effect.gainUp;
-        return 0.0 - effect.gainDown; // a difference, which is never -0
+        // Negated as an integer, which knows no -0, and a wide one, which holds the result.
+        return static_cast<double>(-std::int64_t(effect.gainDown));
     });
 }
 

@@ -51,8 +51,9 @@ TEST_F(CompositionConversion, ChromaKey)
     auto converted = convert(effect);
     EXPECT_EQ(converted.stageCode, 18);
     EXPECT_EQ(converted.implementation, "DEFAULT");
-    EXPECT_THAT(converted.settings, ElementsAre(settings("SettingsEffectChromakey", R"(["SetParams", 80, 0, 0.01, 0.1])",
-                                        R"("red": 0, "green": 200, "blue": 0, "alpha": 0)")));
+    EXPECT_THAT(
+        converted.settings, ElementsAre(settings("SettingsEffectChromakey", R"(["SetParams", 80, 0, 0.01, 0.1])",
+                                R"("red": 0, "green": 200, "blue": 0, "alpha": 0)")));
 
     effect.color = 0x80FF1203;
     effect.hueTolerance = -1;
@@ -60,8 +61,9 @@ TEST_F(CompositionConversion, ChromaKey)
     effect.harshness = 50;
     effect.transparency = 125;
     converted = convert(effect);
-    EXPECT_THAT(converted.settings, ElementsAre(settings("SettingsEffectChromakey", R"(["SetParams", -1, 1, 0.5, 1.25])",
-                                        R"("red": 255, "green": 18, "blue": 3, "alpha": 0)")));
+    EXPECT_THAT(
+        converted.settings, ElementsAre(settings("SettingsEffectChromakey", R"(["SetParams", -1, 1, 0.5, 1.25])",
+                                R"("red": 255, "green": 18, "blue": 3, "alpha": 0)")));
 }
 
 TEST_F(CompositionConversion, BlendModes)
@@ -81,8 +83,9 @@ TEST_F(CompositionConversion, BlendModes)
         ColorBlending blending;
         blending.mode = Mode{mode};
         blending.intensity = 0.5;
-        EXPECT_THAT(convert(blending).settings, ElementsAre(settings("SettingsEffectColorBlender",
-                                                    R"(["SetIntensity", 0.5], ["SetBaseColor", [0, 0, 0, 1]])", field)));
+        EXPECT_THAT(
+            convert(blending).settings, ElementsAre(settings("SettingsEffectColorBlender",
+                                            R"(["SetIntensity", 0.5], ["SetBaseColor", [0, 0, 0, 1]])", field)));
     }
 }
 
@@ -135,14 +138,14 @@ TEST_F(CompositionConversion, PictureInPictureMovedIsATransform)
 
     effect.setTransform({0.25, 0.5, -0.5, 0.125, 0.1, 0.2, -0.375, 0.75, 2});
     converted = convert(effect);
-    EXPECT_THAT(converted.settings, ElementsAre(settings("SettingsEffectTransform", "",
-                                        R"("mode": 0, "matrix": [0.25, 0.5, 0.1, -0.5, 0.125, 0.2, -0.375, 0.75, 2])")));
+    EXPECT_THAT(
+        converted.settings, ElementsAre(settings("SettingsEffectTransform", "",
+                                R"("mode": 0, "matrix": [0.25, 0.5, 0.1, -0.5, 0.125, 0.2, -0.375, 0.75, 2])")));
 }
 
 TEST_F(CompositionConversion, WholeRecordConversionsCheckTheClass)
 {
-    EXPECT_THROW(
-        Factory::videoEffectSettings(VideoEffect(Id::PictureInPicture, Group::GroupPip), {}), std::bad_cast);
+    EXPECT_THROW(Factory::videoEffectSettings(VideoEffect(Id::PictureInPicture, Group::GroupPip), {}), std::bad_cast);
 }
 
 Transform scaled(double x, double y, double right = 0, double down = 0)
@@ -181,8 +184,8 @@ TEST_P(SideBySideConversion, Rectangles)
     EXPECT_THAT((std::array{frame.dstLeft, frame.dstTop, frame.dstRight, frame.dstBottom}), sides.targetRect);
 }
 
-Transform const middle = scaled(0.5, 1);           // [0.25, 0, 0.75, 1]
-Transform const leftHalf = scaled(0.5, 1, -0.25);  // [0, 0, 0.5, 1]
+Transform const middle = scaled(0.5, 1);                // [0.25, 0, 0.75, 1]
+Transform const leftHalf = scaled(0.5, 1, -0.25);       // [0, 0, 0.5, 1]
 Transform const quarter = scaled(0.5, 0.5, 0.25, 0.25); // [0.5, 0.5, 1, 1]
 
 INSTANTIATE_TEST_SUITE_P(Overhangs, SideBySideConversion,

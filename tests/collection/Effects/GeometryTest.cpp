@@ -25,8 +25,8 @@ TEST_F(GeometryConversion, CropPassesItsTransform)
     auto converted = convert(effect);
     EXPECT_EQ(converted.stageCode, 18);
     EXPECT_EQ(converted.implementation, "DEFAULT");
-    EXPECT_THAT(converted.settings, ElementsAre(settings("SettingsEffectTransform", "",
-                                        R"("mode": 2, "matrix": [1, 0, 0, 0, 1, 0, 0, 0, 1])")));
+    EXPECT_THAT(converted.settings,
+        ElementsAre(settings("SettingsEffectTransform", "", R"("mode": 2, "matrix": [1, 0, 0, 0, 1, 0, 0, 0, 1])")));
 
     effect.setTransform({0.5, 0.1, 0.2, 2, 0.3, 0.4, -0.25, 0.75, 1.5});
     converted = convert(effect);

@@ -58,8 +58,7 @@ TEST_F(MirroringConversion, MirrorPassesWhatTheEngineKnows)
     };
     for (auto const & row : rows) {
         SCOPED_TRACE(testing::Message() << row.vertical << ", " << row.horizontal);
-        auto const effect =
-            Testing::readKeys<Mirror>({{"vertical", row.vertical}, {"horizontal", row.horizontal}});
+        auto const effect = Testing::readKeys<Mirror>({{"vertical", row.vertical}, {"horizontal", row.horizontal}});
         Quoril::Proc::SettingsEffectMirror converted;
         converted.vertical = converted.horizontal = untouched;
         Factory::fill(converted, *effect, {});
