@@ -14,3 +14,5 @@
 #include <effects/Identity.h>
 #include <effects/Mask.h>
 #include <effects/Modulation.h>
+#include <effects/Shaders.h>
+#include <utils/LutUtils.h>

@@ -26,6 +26,7 @@
 #include <Settings/SettingsColorFilter.h>
 #include <Settings/SettingsComposition.h>
 #include <Settings/SettingsMask.h>
+#include <Settings/SettingsShader.h>
 #include <Settings/SettingsRetro.h>
 #include <Settings/SettingsTransform.h>
 
@@ -132,6 +133,9 @@ void fill(Proc::SettingsEffectColorBlender &, ColorBlending const &, VideoParams
 EffectSettings convertMask(Object const &, VideoParams const &);
 
 // Lookup tables and shaders.
+void fill(Proc::SettingsEffectTemplateQES &, ExternalShader const &, VideoParams const &);
+void fill(Proc::SettingsEffectLUT &, Lut const &, VideoContext const &);
+void fill(Proc::SettingsEffectISF &, ShaderISF const &, VideoContext const &);
 
 // Blur and sharpness.
 
