@@ -9,7 +9,8 @@ set(EDITOREFFECTS_PUBLIC_HEADERS
   effects/EffectClass.h
   effects/Effects.h
   effects/Export.h
-  effects/Identity.h)
+  effects/Identity.h
+  utils/EffectUtils.h)
 
 # A family is a source of each of three kinds, of its own name. Static initialisers run in this order: the exported
 # classes and their constants, then the hidden ones.
@@ -33,7 +34,9 @@ add_families(${hidden_families})
 target_sources(EditorEffectsObjects PRIVATE
   effects/PrivateIdentity.cpp
   collection/Effects/SettingsFactory.cpp
-  collection/Effects/ContentProvider.cpp)
+  collection/Effects/ContentProvider.cpp
+  collection/Effects/CollectionNames.cpp
+  utils/EffectUtils.cpp)
 target_include_directories(EditorEffectsObjects PUBLIC "$<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>")
 target_link_libraries(EditorEffectsObjects
   PUBLIC

@@ -6,3 +6,4 @@
 #include <effects/Base.h>
 #include <effects/ColorCorrection.h>
 #include <effects/Identity.h>
+#include <utils/EffectUtils.h>
