@@ -5,24 +5,45 @@
 set(EDITOREFFECTS_PUBLIC_HEADERS
   collection/Effects/ContentProvider.h
   effects/Base.h
+  effects/CleanUp.h
   effects/ColorCorrection.h
+  effects/Composition.h
+  effects/Dynamics.h
   effects/EffectClass.h
   effects/Effects.h
+  effects/Equalizer.h
   effects/Export.h
   effects/Identity.h
   utils/EffectUtils.h)
+  effects/Geometry.h
+  effects/Holder.h
+  effects/Identity.h
+  effects/Mask.h
+  effects/Modulation.h
+)
 
 # A family is a source of each of three kinds, of its own name. Static initialisers run in this order: the exported
 # classes and their constants, then the hidden ones.
 set(exported_families Base ColorCorrection Geometry Composition Mask Shaders Equalizer Dynamics Modulation CleanUp Holder)
 set(hidden_families Mirroring Blur Distortion Artistic Retro ColorFilters Light Voice)
 
+# family_sources(VARIABLE PATTERN FAMILY...): the files of that pattern that the families have, "@" being a family.
+function(family_sources variable pattern)
+  set(sources)
+  foreach(family IN LISTS ARGN)
+    string(REPLACE "@" ${family} source "${pattern}")
+    if(EXISTS "${CMAKE_CURRENT_SOURCE_DIR}/${source}")
+      list(APPEND sources ${source})
+    endif()
+  endforeach()
+  set(${variable} ${sources} PARENT_SCOPE)
+endfunction()
+
 function(add_families)
   foreach(family IN LISTS ARGN)
-    foreach(source IN ITEMS serialization/${family}.cpp effects/${family}.cpp collection/Effects/conversions/${family}.cpp)
-      if(EXISTS "${PROJECT_SOURCE_DIR}/${source}")
-        target_sources(EditorEffectsObjects PRIVATE ${source})
-      endif()
+    foreach(pattern IN ITEMS serialization/@.cpp effects/@.cpp collection/Effects/conversions/@.cpp)
+      family_sources(source ${pattern} ${family})
+      target_sources(EditorEffectsObjects PRIVATE ${source})
     endforeach()
   endforeach()
 endfunction()
@@ -33,10 +54,13 @@ target_sources(EditorEffectsObjects PRIVATE effects/Identity.cpp)
 add_families(${hidden_families})
 target_sources(EditorEffectsObjects PRIVATE
   effects/PrivateIdentity.cpp
+  collection/Effects/ContentProvider.cpp
+  collection/Effects/ImageHolder.cpp
   collection/Effects/SettingsFactory.cpp
   collection/Effects/ContentProvider.cpp
   collection/Effects/CollectionNames.cpp
   utils/EffectUtils.cpp)
+)
 target_include_directories(EditorEffectsObjects PUBLIC "$<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>")
 target_link_libraries(EditorEffectsObjects
   PUBLIC

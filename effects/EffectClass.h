@@ -50,11 +50,19 @@ public:
 /// Defines what `EFFECT_FILTER_CLASS` declares.
 #define EFFECT_FILTER(Class, Base, Identifier, Tag)                                                                    \
     EFFECT_CONSTRUCTOR(Class, Base, Identifier, Identifier, Tag)                                                       \
+    EFFECT_FILTER_OVERRIDES(Class, Tag)
+
+/// The same but the constructor.
+#define EFFECT_FILTER_OVERRIDES(Class, Tag)                                                                            \
     EFFECT_DEFAULT_TAG(Class, Tag)                                                                                     \
     bool Class::hasIntensity() const                                                                                   \
     {                                                                                                                  \
         return true;                                                                                                   \
     }
+
+/// The same for a video effect whose identifier and tag are named after it. It goes with a family's list in
+/// effects/ClassList.h.
+#define EFFECT_VIDEO_FILTER(Class) EFFECT_FILTER(Class, VideoEffect, Id::Class, Tags::tag##Class)
 
 /// Defines a class's `defaultTag`.
 #define EFFECT_DEFAULT_TAG(Class, Tag)                                                                                 \

@@ -1,10 +1,13 @@
 #include <collection/Effects/SettingsFactory.h>
 
 #include <functional>
+#include <typeinfo>
 #include <utility>
 
 #include <collection/Effects/Conversions.h>
+#include <collection/Effects/FactoryCaches.h>
 #include <ConfInt/ImplNames.h>
+#include <effects/PrivateIdentity.h>
 
 #include <QMap>
 
@@ -25,13 +28,19 @@ namespace {
 template <class Params> using Conversion = std::function<EffectSettings(Object const &, Params const &)>;
 template <class Params> using Table = QMap<QString, Conversion<Params>>;
 
+/// `dynamic_cast`, which throws for another class; nearly every object is of the very class that is asked for, and
+/// that is seen at a glance.
+template <class Effect> Effect const & castTo(Object const & object)
+{
+    return typeid(object) == typeid(Effect) ? static_cast<Effect const &>(object) : dynamic_cast<Effect const &>(object);
+}
+
 /// Casts the effect to its class, which throws for another one, and makes the settings object that `fillAndWrap` turns
 /// into a record.
 template <class Effect, class Settings, class Params, class Lambda> Conversion<Params> wrap(Lambda fillAndWrap)
 {
     return [fillAndWrap](Object const & object, Params const & params) {
-        auto const & effect = dynamic_cast<Effect const &>(object);
-        return fillAndWrap(effect, std::make_unique<Settings>(), params);
+        return fillAndWrap(castTo<Effect>(object), std::make_unique<Settings>(), params);
     };
 }
 
@@ -47,21 +56,27 @@ Conversion<Params> row(std::uint8_t stageCode, std::string const & implementatio
 }
 
 template <class Effect, class Settings>
-Conversion<VideoParams> video(
+Conversion<VideoContext> video(
     std::uint8_t stageCode = Stage::video, std::string const & implementation = Proc::ImplNames::DEFAULT)
 {
-    return row<Effect, Settings, VideoParams>(stageCode, implementation);
+    return row<Effect, Settings, VideoContext>(stageCode, implementation);
 }
 
 /// A conversion that leaves its settings object as it was made.
 template <class Effect, class Settings>
-Conversion<VideoParams> bareVideo(
+Conversion<VideoContext> bareVideo(
     std::uint8_t stageCode = Stage::video, std::string const & implementation = Proc::ImplNames::DEFAULT)
 {
-    return wrap<Effect, Settings, VideoParams>(
-        [stageCode, &implementation](Effect const &, std::unique_ptr<Settings> settings, VideoParams const &) {
+    return wrap<Effect, Settings, VideoContext>(
+        [stageCode, &implementation](Effect const &, std::unique_ptr<Settings> settings, VideoContext const &) {
             return makeEffectSettings(std::move(settings), stageCode, implementation);
         });
+}
+
+template <class Effect, class Settings>
+Conversion<AudioParams> audio(std::string const & implementation = Proc::ImplNames::DEFAULT)
+{
+    return row<Effect, Settings, AudioParams>(Stage::audio, implementation);
 }
 
 template <class Params>
@@ -85,9 +100,9 @@ EffectSettings lookUp(Table<Params> const & table, Object const & effect, Params
 
 } // namespace
 
-/// What a factory has loaded so far, by name.
 struct SettingsFactory::Impl
 {
+    FactoryCaches caches;
 };
 
 SettingsFactory::SettingsFactory()
@@ -103,19 +118,74 @@ SettingsFactory::~SettingsFactory()
 
 EffectSettings SettingsFactory::createVideoEffectSettings(Object const & effect, VideoParams const & params)
 {
-    static Table<VideoParams> const table{
+    static Table<VideoContext> const table{
         {Id::AutoContrast, bareVideo<AutoContrast, Proc::SettingsEffectAutoContrast>(Stage::oneButton)},
         {Id::AutoSaturation, bareVideo<AutoSaturation, Proc::SettingsEffectSaturation>(Stage::oneButton)},
         {Id::WhiteBalance, video<WhiteBalance, Proc::SettingsEffectAutoWhiteBalance>(Stage::oneButton)},
         {Id::MagicEnhance, bareVideo<MagicEnhance, Proc::SettingsEffectMagicEnhance2>(Stage::oneButton)},
         {Id::ManualEnhance, convertManualEnhance},
+        {Id::Flip, video<Flip, Proc::SettingsEffectTransform>()},
+        {Id::Mirror, video<Mirror, Proc::SettingsEffectMirror>()},
+        {Id::PictureInPicture, convertPictureInPicture},
+        {Id::SideBySide, video<SideBySide, Proc::SettingsEffectSubFrame>()},
+        {Id::ChromaKey, video<ChromaKey, Proc::SettingsEffectChromakey>()},
+        {Id::Opacity, video<Opacity, Proc::SettingsEffectOpacity>()},
+        {Id::Crop, video<Crop, Proc::SettingsEffectTransform>()},
+        {Id::Mask, convertMask},
+        {Id::Transpose, video<Transpose, Proc::SettingsEffectTransform>()},
+        {Id::FixVertVideo, video<FixVertVideo, Proc::SettingsEffectFixVertVideo>()},
+        {Id::Overlay, video<Overlay, Proc::SettingsEffectColorBlender>()},
+        {Id::ColorBlending, video<ColorBlending, Proc::SettingsEffectColorBlender>()},
+        {Id::AlphaInserter,
+            bareVideo<AlphaInserter, Proc::SettingsEffectAlphaInserter>(Stage::openGl, Proc::ImplNames::OGL)},
+        {Id::RetroArtefacts, video<RetroArtefacts, Proc::SettingsEffectRetroArtefacts>()},
+        {Id::RetroColors, video<RetroColors, Proc::SettingsEffectRetroColors>()},
+        {Id::AddNoize, video<AddNoize, Proc::SettingsEffectAddNoize>()},
+        {Id::Invert, video<Invert, Proc::SettingsEffectInvert>()},
+        {Id::PopArt, video<PopArt, Proc::SettingsEffectPopArt>()},
+        {Id::VHS, video<VHS, Proc::SettingsEffectVHS>()},
+        {Id::Stripes, video<Stripes, Proc::SettingsEffectStripes>()},
+        {Id::Mosaic, video<Mosaic, Proc::SettingsEffectMosaic>()},
+        {Id::Posterize, video<Posterize, Proc::SettingsEffectPosterize>()},
+        {Id::FindEdges, video<FindEdges, Proc::SettingsEffectFindEdges>()},
+        {Id::OilPaint, video<OilPaint, Proc::SettingsEffectOilPaint>()},
+        {Id::GlassMosaic, video<GlassMosaic, Proc::SettingsEffectGlassMosaic>()},
+        {Id::Erosion, video<Erosion, Proc::SettingsEffectErosion>()},
+        {Id::Diffuse, video<Diffuse, Proc::SettingsEffectDiffuse>()},
+        {Id::ColorBrush, video<ColorBrush, Proc::SettingsEffectColorBrush>()},
+        {Id::FilmStrip, video<FilmStrip, Proc::SettingsEffectFilmStrip>()},
+        {Id::ColorFilter, video<ColorFilter, Proc::SettingsEffectColorFilter>()},
+        {Id::ColorMixBurn, video<ColorMixBurn, Proc::SettingsEffectColorMixBurn>()},
+        {Id::ColorSelect, video<ColorSelect, Proc::SettingsEffectColorSelect>()},
+        {Id::ColorMixExchange, video<ColorMixExchange, Proc::SettingsEffectColorMixExchange>()},
+        {Id::ColorMixField, video<ColorMixField, Proc::SettingsEffectColorMixField>()},
+        {Id::HalfTone, video<HalfTone, Proc::SettingsEffectHalfTone>()},
+        {Id::GlitchSecurityCam, video<GlitchSecurityCam, Proc::SettingsEffectGlitchSecurityCam>()},
+        {Id::GlitchMpeg, video<GlitchMpeg, Proc::SettingsEffectGlitchMpeg>()},
+        {Id::Television70s, video<Television70s, Proc::SettingsEffectTelevision70s>()},
     };
-    return lookUp(table, effect, params);
+    return lookUp(table, effect, VideoContext(params, m_impl->caches));
 }
 
 EffectSettings SettingsFactory::createAudioEffectSettings(Object const & effect, AudioParams const & params)
 {
-    static Table<AudioParams> const table{};
+    static Table<AudioParams> const table{
+        {Id::AudioEqualizer, audio<AudioEqualizer, Proc::SettingsAudioEqualizer>()},
+        {Id::AudioRadio, audio<AudioRadio, Proc::SettingsAudioRadio>()},
+        {Id::AudioPhone, audio<AudioPhone, Proc::SettingsAudioEqualizer>()},
+        {Id::AudioMuffle, audio<AudioMuffle, Proc::SettingsAudioEqualizer>()},
+        {Id::AudioEcho, audio<AudioEcho, Proc::SettingsAudioEcho>()},
+        {Id::AudioPitch, audio<AudioPitch, Proc::SettingsAudioPitch>()},
+        {Id::AudioRobot, audio<AudioRobot, Proc::SettingsAudioRobot>()},
+        {Id::Distortion, audio<AudioDistortion, Proc::SettingsAudioDistortion>()},
+        {Id::Reverb, audio<AudioReverb, Proc::SettingsAudioReverberationImpulseResponse>()},
+        {Id::NoiseGate, audio<AudioNoiseGate, Proc::SettingsAudioGate>()},
+        {Id::Compressor, audio<AudioCompressor, Proc::SettingsAudioCompressor>()},
+        {Id::Flanger, audio<AudioFlanger, Proc::SettingsAudioFlanger>()},
+        {Id::Vibrato, audio<AudioVibrato, Proc::SettingsAudioVibrato>()},
+        {Id::NoiseSuppress, audio<AudioNoiseSuppress, Proc::SettingsAudioNoiseSuppress>(Proc::ImplNames::SPEEX)},
+        {Id::AudioMonoChannel, audio<AudioMonoChannel, Proc::SettingsFilterResample>()},
+    };
     return lookUp(table, effect, params);
 }
 

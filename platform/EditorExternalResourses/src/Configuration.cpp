@@ -306,8 +306,6 @@ Output makePasses(Node const & head)
 
 // Imports
 
-using ResolvePath = std::function<std::string(std::string const &)>;
-
 /// One path for a picture or six for a cube map, left, right, bottom, top, front and back.
 Output makePath(Node const & import, ResolvePath const & resolvePath)
 {

@@ -9,10 +9,12 @@
 
 namespace External::ShaderISF {
 
+/// Tells where the file lies that an import names by a path.
+using ResolvePath = std::function<std::string(std::string const & path)>;
+
 /// The configuration text of `head`: checked, every default filled in, in the one form of the README. The paths of
 /// imports go through `resolvePath`.
 /// @throws std::runtime_error that names the value at fault by its path within the head
-std::string makeConfiguration(
-    nlohmann::json const & head, std::function<std::string(std::string const &)> const & resolvePath);
+std::string makeConfiguration(nlohmann::json const & head, ResolvePath const & resolvePath);
 
 } // namespace External::ShaderISF

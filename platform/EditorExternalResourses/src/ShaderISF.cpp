@@ -21,8 +21,6 @@ namespace External::ShaderISF {
 
 namespace {
 
-using ResolvePath = std::function<std::string(std::string const &)>;
-
 /// The text in valid UTF-8, without byte order mark, with "\n" line ends. Bytes that are no text of the encoding become
 /// replacement characters: old files have them in the names of their authors. `what` names the text in messages.
 std::string decodeText(std::string_view bytes, std::string const & what)

@@ -17,8 +17,9 @@
 #include <EditorSettings/Settings.h>
 #include <FileSystem/FileSystem.h>
 
-#include <QFile>
-#include <QFileInfo>
+#include "RegularFile.h"
+
+#include <QByteArray>
 
 namespace MotionTracking {
 
@@ -319,29 +320,14 @@ std::shared_ptr<Data const> parseTrack(std::string_view text, QString * error)
 
 std::shared_ptr<Data const> loadTrackFile(QString const & path, QString * error)
 {
-    auto const fail = [&](QString const & reason) {
-        report(error, path + ": " + reason);
+    std::optional<QByteArray> const text = RegularFile::read(path, maxFileSize, error);
+    if (!text)
         return nullptr;
-    };
-    // Opening a pipe would wait for its writer, and a device may never end.
-    QFileInfo const info(path);
-    if (!info.exists())
-        return fail("no such file");
-    if (!info.isFile())
-        return fail("is not a regular file");
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return fail(file.errorString());
-    // One byte too many is asked for, since the file may grow meanwhile.
-    QByteArray const text = file.read(maxFileSize + 1);
-    if (file.error() != QFileDevice::NoError)
-        return fail(file.errorString());
-    if (text.size() > maxFileSize)
-        return fail(QStringLiteral("is longer than %1 bytes").arg(maxFileSize));
-
     QString reason;
-    std::shared_ptr<Data const> data = parseTrack({text.constData(), static_cast<std::size_t>(text.size())}, &reason);
-    return data ? data : fail(reason);
+    std::shared_ptr<Data const> data = parseTrack({text->constData(), static_cast<std::size_t>(text->size())}, &reason);
+    if (!data)
+        report(error, path + ": " + reason);
+    return data;
 }
 
 std::shared_ptr<Data const> loadTrackingData(QString const & id)

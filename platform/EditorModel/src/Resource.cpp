@@ -7,8 +7,9 @@
 
 #include "Instantiate.h"
 #include "PlainForms.h"
+#include "RegularFile.h"
 
-#include <QFile>
+#include <QGuiApplication>
 #include <QImageReader>
 
 namespace Resource {
@@ -17,18 +18,10 @@ using Serialize::field;
 
 namespace {
 
-struct Entry
-{
-    QString path;
-    int index = 0;
-    MTime length;
-    Timing timing;
-};
-
 struct Entries
 {
     std::shared_mutex mutex;
-    std::map<ID, Entry> byId;
+    std::map<ID, Registration> byId;
 };
 
 Entries & entries()
@@ -57,18 +50,31 @@ void tell(QString * error, QString const & text)
         *error = text;
 }
 
-QByteArray readFile(QString const & path, QString * error)
+/// Null, and the reason in `error`, when there is no picture.
+std::shared_ptr<QPixmap const> readPixmap(QString const & path, QString * error)
 {
+    auto const fail = [&](QString const & reason) {
+        tell(error, path + QLatin1String(": ") + reason);
+        return nullptr;
+    };
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        tell(error, path + QLatin1String(": ") + file.errorString());
-        return {};
+    if (!RegularFile::open(file, error))
+        return nullptr;
+    QImageReader reader(&file);
+    // A few bytes can claim any size, so what the picture will take is asked for before it is read.
+    if (reader.canRead()) {
+        QSize const size = reader.size();
+        if (!size.isValid())
+            return fail(QStringLiteral("does not tell its size"));
+        if (std::int64_t(size.width()) * size.height() > maxImagePixels)
+            return fail(QStringLiteral("has more than %1 pixels").arg(maxImagePixels));
     }
-    if (file.isSequential() || file.size() > maxBlobSize) {
-        tell(error, path + QLatin1String(": no regular file of at most 256 MiB"));
-        return {};
-    }
-    return file.readAll();
+    if (!qobject_cast<QGuiApplication *>(QCoreApplication::instance()))
+        return fail(QStringLiteral("pictures need a QGuiApplication"));
+    QImage const picture = reader.read();
+    if (picture.isNull())
+        return fail(reader.errorString());
+    return std::make_shared<QPixmap const>(QPixmap::fromImage(picture));
 }
 
 } // namespace
@@ -78,8 +84,7 @@ ID::ID() = default;
 ID::ID(QString const & name, Type type)
     : m_name(name)
     , m_type(type)
-{
-}
+{}
 
 ID::~ID() = default;
 
@@ -99,8 +104,8 @@ Timing::~Timing() = default;
 
 template <class Archive> void Timing::serialize(Archive & archive)
 {
-    Serialize::fields(archive, field("loopCount", loopCount), field("start", start), field("length", length),
-        field("flags", flags));
+    Serialize::fields(
+        archive, field("loopCount", loopCount), field("start", start), field("length", length), field("flags", flags));
 }
 
 EDITORMODEL_ARCHIVED(ID)
@@ -109,7 +114,7 @@ EDITORMODEL_ARCHIVED(Timing)
 void registerResource(ID const & id, QString const & path, int index, MTime length, Timing const & timing)
 {
     std::unique_lock const lock(entries().mutex);
-    entries().byId.insert_or_assign(id, Entry{path, index, length, timing});
+    entries().byId.insert_or_assign(id, Registration{path, index, length, timing});
 }
 
 void unregisterResource(ID const & id)
@@ -124,6 +129,13 @@ bool isResourceRegistered(ID const & id)
     return entries().byId.count(id) != 0;
 }
 
+std::optional<Registration> registration(ID const & id)
+{
+    std::shared_lock const lock(entries().mutex);
+    auto const found = entries().byId.find(id);
+    return found != entries().byId.end() ? std::optional(found->second) : std::nullopt;
+}
+
 QString registeredPath(QString const & name)
 {
     return findPath(name, allTypes);
@@ -136,7 +148,7 @@ std::unique_ptr<Blob> provideBlobResource(QString const & name, QString * error)
     if (path.isEmpty())
         tell(error, QLatin1String("no resource is registered as \"") + name + QLatin1Char('"'));
     else
-        blob->data = readFile(path, error);
+        blob->data = RegularFile::read(path, maxBlobSize, error).value_or(QByteArray());
     return blob;
 }
 
@@ -149,12 +161,7 @@ std::unique_ptr<Image> provideImageResource(QString const & name, QString * erro
         return nullptr;
     }
     auto image = std::make_unique<Image>();
-    QImageReader reader(path);
-    QImage const picture = reader.read();
-    if (picture.isNull())
-        tell(error, path + QLatin1String(": ") + reader.errorString());
-    else
-        image->pixmap = std::make_shared<QPixmap const>(QPixmap::fromImage(picture));
+    image->pixmap = readPixmap(path, error);
     return image;
 }
 

@@ -12,7 +12,7 @@ bool loadBlob(QString const & path)
     if (!file.isFile() || !file.isReadable())
         return false;
     Resource::registerResource(
-        Resource::ID(file.fileName(), Resource::Type::Blob), path, 0, MTime(), Resource::Timing());
+        Resource::ID(file.fileName(), Resource::Type::Blob), file.absoluteFilePath(), 0, MTime(), Resource::Timing());
     return true;
 }
 

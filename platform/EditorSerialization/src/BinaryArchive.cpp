@@ -231,7 +231,7 @@ BinaryIArchive::Loaded BinaryIArchive::loadPointed()
     if (!loaded.object)
         throw ArchiveError(ArchiveError::unregistered_class,
             "unregistered class - \"" + type->name + "\" cannot be made by name");
-    DepthGuard const guard(m_depth);
+    DepthGuard const guard(m_depth, [this](std::string const & problem) { m_bytes.fail(problem); });
     type->serializer->load_object_data(*this, dynamic_cast<void *>(loaded.object.get()), type->version);
     if (type->tracked)
         m_objects[place] = loaded.object.get();

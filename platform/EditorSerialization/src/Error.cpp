@@ -24,12 +24,13 @@ char const * ArchiveError::what() const noexcept
 }
 
 DepthGuard::DepthGuard(int & depth)
-    : m_depth(depth)
+    : DepthGuard(depth, [](std::string const & text) { throw ArchiveError(ArchiveError::other_exception, text); })
 {
-    if (m_depth >= maxObjectDepth)
-        throw ArchiveError(ArchiveError::other_exception,
-            "objects are nested more than " + std::to_string(maxObjectDepth) + " deep");
-    ++m_depth;
+}
+
+std::string DepthGuard::tooDeep()
+{
+    return "objects are nested more than " + std::to_string(maxObjectDepth) + " deep";
 }
 
 } // namespace Serialize

@@ -259,7 +259,7 @@ std::unique_ptr<ISerializable> iarchive::loadPointed()
     std::unique_ptr<ISerializable> object = type ? Registry::create(type->name) : nullptr;
     if (!object)
         fail("unregistered class - " + name->dump(), boost::archive::archive_exception::unregistered_class);
-    DepthGuard const guard(m_depth);
+    DepthGuard const guard(m_depth, [this](std::string const & problem) { fail(problem); });
     type->serializer->load_object_data(*this, dynamic_cast<void *>(object.get()), 0);
     return object;
 }

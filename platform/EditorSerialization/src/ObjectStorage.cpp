@@ -38,6 +38,9 @@ ISerializable * ObjectStorage::add(std::unique_ptr<ISerializable> object, std::f
     ISerializable const * const root = object.get();
     if (!root)
         return nullptr;
+    // One that was moved from starts anew.
+    if (!m_state)
+        m_state = std::make_unique<State>();
     ObjectTracker & tracker = m_state->tracker;
     // The walk finds what the object owns in turn. Those belong to it, and are no business of this storage.
     ObjectTracker found;

@@ -68,7 +68,6 @@ template <class T> void StreamSerializer::record(char mark, T const & value)
 
 void StreamSerializer::content(ISerializable const & object)
 {
-    DepthGuard const guard(m_depth);
     object.Serialize(*this);
     m_bytes.write(Mark::EndObject);
 }
@@ -77,6 +76,8 @@ void StreamSerializer::write(ISerializable const * object)
 {
     if (!object)
         return m_bytes.write(Mark::Null);
+    // Counted here alone, as in the archives: what is written by reference nests no deeper than classes do.
+    DepthGuard const guard(m_depth);
     record(Mark::Pointer, object->GetNameInArchive());
     content(*object);
 }
@@ -176,7 +177,6 @@ template <class T> void StreamDeserializer::record(char mark, char const * what,
 
 void StreamDeserializer::content(ISerializable & object)
 {
-    DepthGuard const guard(m_depth);
     object.Deserialize(*this);
     expect(Mark::EndObject, "the end of the object");
 }
@@ -195,6 +195,7 @@ void StreamDeserializer::read(std::unique_ptr<ISerializable> & holder)
     if (!object)
         throw ArchiveError(ArchiveError::unregistered_class,
             "unregistered class - \"" + name + "\", before byte " + std::to_string(m_bytes.offset()));
+    DepthGuard const guard(m_depth, [this](std::string const & problem) { m_bytes.fail(problem); });
     content(*object);
     holder = std::move(object);
 }

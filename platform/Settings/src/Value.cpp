@@ -3,8 +3,54 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <limits>
 
 namespace Quoril::Proc {
+
+namespace {
+
+Value::Data dataOf(std::uint64_t number)
+{
+    if (number <= static_cast<std::uint64_t>(std::numeric_limits<std::int64_t>::max())) {
+        return static_cast<std::int64_t>(number);
+    }
+    return static_cast<double>(number);
+}
+
+} // namespace
+
+Value::Value() noexcept = default;
+Value::Value(std::nullptr_t) noexcept {}
+Value::Value(double number) noexcept
+    : m_data(number)
+{}
+Value::Value(char const * text)
+    : m_data(std::string(text))
+{}
+Value::Value(std::string text) noexcept
+    : m_data(std::move(text))
+{}
+Value::Value(List list) noexcept
+    : m_data(std::move(list))
+{}
+Value::Value(Object object) noexcept
+    : m_data(std::move(object))
+{}
+Value::Value(Tag, bool on) noexcept
+    : m_data(on)
+{}
+Value::Value(Tag, std::int64_t number) noexcept
+    : m_data(number)
+{}
+Value::Value(Tag, std::uint64_t number) noexcept
+    : m_data(dataOf(number))
+{}
+
+Value::Value(Value const & other) = default;
+Value::Value(Value && other) noexcept = default;
+Value & Value::operator=(Value const & other) = default;
+Value & Value::operator=(Value && other) noexcept = default;
+Value::~Value() = default;
 
 Value const * Value::find(std::string const & key) const
 {

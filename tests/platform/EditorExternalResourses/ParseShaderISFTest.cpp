@@ -46,7 +46,7 @@ struct Case
     std::string in;
     std::string out;
 
-    friend std::ostream & operator<<(std::ostream & out, Case const & value) { return out << value.in; }
+    friend std::ostream & operator<<(std::ostream & stream, Case const & value) { return stream << value.name; }
 };
 
 class Table : public testing::TestWithParam<Case>

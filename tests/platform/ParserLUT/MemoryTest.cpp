@@ -3,7 +3,7 @@
 
 #include <ParserLUT/ParserLUTFactory.h>
 
-#include "Allocations.h"
+#include <support/Allocations.h>
 
 namespace {
 
@@ -29,13 +29,13 @@ TEST(ParserLUTMemory, ClaimsCostNothing)
     for (auto const & text : texts) {
         auto const parser = ParserLUTFactory::GetParser(text);
         ASSERT_TRUE(parser);
-        auto const before = AllocatedBytes();
+        auto const before = Testing::allocatedBytes();
         std::size_t after = 0;
         try {
             parser->Parse(text);
             ADD_FAILURE() << text;
         } catch (std::exception const &) {
-            after = AllocatedBytes();
+            after = Testing::allocatedBytes();
         }
         EXPECT_LT(after - before, allowance) << text;
     }
@@ -50,9 +50,9 @@ TEST(ParserLUTMemory, CubeTakesItsEntriesAndNothingElse)
         text += "0.123456 0.234567 0.345678\n";
     auto const parser = ParserLUTFactory::GetParser(text);
     ASSERT_TRUE(parser);
-    auto const before = AllocatedBytes();
+    auto const before = Testing::allocatedBytes();
     auto const table = parser->Parse(text);
-    auto const after = AllocatedBytes();
+    auto const after = Testing::allocatedBytes();
     EXPECT_EQ(table->entries.size(), count);
     EXPECT_GE(after - before, count * sizeof(Color));
     EXPECT_LT(after - before, count * sizeof(Color) + allowance);

@@ -24,7 +24,8 @@ void checkValue(Settings const & fresh, Row const & row)
     EXPECT_FALSE(fresh.IsEqualTo(*settings));
 
     auto const clone = settings->Clone();
-    EXPECT_TRUE(typeid(*clone) == typeid(fresh));
+    Settings const & copy = *clone;
+    EXPECT_TRUE(typeid(copy) == typeid(fresh));
     EXPECT_TRUE(clone->IsEqualTo(*settings));
     row.expectGiven(*clone);
 }
@@ -37,12 +38,13 @@ void checkTrace(Settings const & fresh, Row const & row)
         EXPECT_TRUE(calls.empty());
         return;
     }
+    auto const told = row.told();
     ASSERT_EQ(calls.size(), 1u);
-    EXPECT_EQ(calls[0].setter, "Set" + row.name);
-    ASSERT_EQ(calls[0].arguments.size(), row.told.size());
-    for (std::size_t index = 0; index < row.told.size(); ++index) {
-        if (row.told[index] != Value()) {
-            EXPECT_EQ(calls[0].arguments[index], row.told[index]);
+    EXPECT_EQ(calls[0].setter, std::string("Set") + row.name);
+    ASSERT_EQ(calls[0].arguments.size(), told.size());
+    for (std::size_t index = 0; index < told.size(); ++index) {
+        if (told[index] != Value()) {
+            EXPECT_EQ(calls[0].arguments[index], told[index]);
         }
     }
 }
@@ -76,7 +78,7 @@ void checkOrder(Settings const & fresh, std::vector<Row> const & rows)
     std::vector<std::string> expectedFields;
     for (Row const & row : rows) {
         row.give(*settings);
-        row.isField ? expectedFields.push_back(row.name) : expectedCalls.push_back("Set" + row.name);
+        row.isField ? expectedFields.push_back(row.name) : expectedCalls.push_back(std::string("Set") + row.name);
     }
 
     std::vector<std::string> calls;

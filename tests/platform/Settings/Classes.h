@@ -116,14 +116,14 @@ template <class... T> struct Sample<std::tuple<T...>>
 /// A setter or a public data member of a class, tested through the class's base.
 struct Row
 {
-    std::string name; ///< a setter's without its prefix
-    bool isField = false;
-    bool canBeRead = true; ///< has a form in a record
+    char const * name; ///< a setter's without its prefix
+    bool isField;
+    bool canBeRead; ///< has a form in a record
 
-    std::function<void(Settings &)> give;              ///< something other than what it starts with
-    std::function<void(Settings const &)> expectStart; ///< fails unless it holds what it starts with
-    std::function<void(Settings const &)> expectGiven; ///< fails unless it holds what was given
-    std::vector<Value> told = {};                      ///< a setter's arguments; null for what is tested elsewhere
+    void (*give)(Settings &);              ///< something other than what it starts with
+    void (*expectStart)(Settings const &); ///< fails unless it holds what it starts with
+    void (*expectGiven)(Settings const &); ///< fails unless it holds what was given
+    std::vector<Value> (*told)();          ///< a setter's arguments; null for what is tested elsewhere
 };
 
 /// Only code can give one: it has no form in a record.
@@ -136,15 +136,12 @@ template <class T>
 inline constexpr bool isComparable = std::is_arithmetic_v<T> || std::is_enum_v<T> || std::is_same_v<T, std::string>;
 template <class T> inline constexpr bool isComparable<std::shared_ptr<T>> = true;
 
+template <class... T> inline constexpr bool isComparable<std::tuple<T...>> = (isComparable<T> && ...);
+
+/// A mismatch is reported under the name of the row.
 template <class T> void expectSame(T const & a, T const & b)
 {
     if constexpr (isComparable<T>) {
-        EXPECT_TRUE(a == b);
-    }
-}
-template <class... T> void expectSame(std::tuple<T...> const & a, std::tuple<T...> const & b)
-{
-    if constexpr ((isComparable<T> && ...)) {
         EXPECT_TRUE(a == b);
     }
 }
@@ -161,56 +158,76 @@ template <class T> Value plain(T const & argument)
     }
 }
 
-/// A setter, which must have the parameters of `Signature`, with its getter. It may be one of a base of `Class`.
-template <class Class, class Signature, class Declaring, class Result, class... Parameters>
-Row setter(char const * name, void (Declaring::*set)(Parameters...), Result (Declaring::*get)() const)
+template <class MemberFunction> struct Signature;
+template <class Class, class Result, class... Parameters> struct Signature<Result (Class::*)(Parameters...)>
+{
+    using Type = Result(Parameters...);
+};
+template <class Class, class Result, class... Parameters> struct Signature<Result (Class::*)(Parameters...) const>
+{
+    using Type = Result(Parameters...);
+};
+
+/// A setter, which must have the signature `Expected`, and its getter. They may be those of a base of `Class`.
+template <class Class, class Expected, auto set, auto get> struct Setter;
+template <class Class, class... Parameters, auto set, auto get> struct Setter<Class, void(Parameters...), set, get>
 {
     using Arguments = std::tuple<std::decay_t<Parameters>...>;
-    static_assert(std::is_same_v<Signature, void(Parameters...)>, "the setter's parameters");
-    static_assert(std::is_same_v<Result,
-                      std::conditional_t<sizeof...(Parameters) == 1, std::tuple_element_t<0, Arguments>, Arguments>>,
-        "what the getter returns");
-    auto const resultOf = [](Arguments const & arguments) -> Result {
-        if constexpr (sizeof...(Parameters) == 1) {
-            return std::get<0>(arguments);
-        } else {
-            return arguments;
-        }
-    };
-    auto const held = [get](Settings const & settings) { return (static_cast<Class const &>(settings).*get)(); };
-    Arguments const given = Sample<Arguments>::make(0);
+    using Result = std::conditional_t<sizeof...(Parameters) == 1, std::tuple_element_t<0, Arguments>, Arguments>;
+    static_assert(std::is_same_v<typename Signature<decltype(set)>::Type, void(Parameters...)>, "the setter");
+    static_assert(std::is_same_v<typename Signature<decltype(get)>::Type, Result()>, "the getter");
 
-    Row row;
-    row.name = name;
-    row.canBeRead =
+    static constexpr bool canBeRead =
         !(isHandle<std::decay_t<Parameters>> || ...) && !(std::is_base_of_v<Settings, std::decay_t<Parameters>> || ...);
-    row.give = [set, given](Settings & settings) {
-        std::apply([&](auto const &... argument) { (static_cast<Class &>(settings).*set)(argument...); }, given);
-    };
-    row.expectStart = [held, resultOf](Settings const & settings) { expectSame(held(settings), resultOf({})); };
-    row.expectGiven = [held, given = resultOf(given)](Settings const & settings) { expectSame(held(settings), given); };
-    row.told = std::apply([](auto const &... argument) { return std::vector<Value>{plain(argument)...}; }, given);
-    return row;
-}
 
-/// A public data member, which must be of the type `Expected`.
-template <class Expected, class Class, class T> Row field(char const * name, T Class::*member)
+    static Arguments const & sample()
+    {
+        static Arguments const arguments = Sample<Arguments>::make(0);
+        return arguments;
+    }
+
+    static void give(Settings & settings)
+    {
+        std::apply([&](auto const &... argument) { (static_cast<Class &>(settings).*set)(argument...); }, sample());
+    }
+    static void expect(Settings const & settings, Arguments const & arguments)
+    {
+        auto const held = (static_cast<Class const &>(settings).*get)();
+        if constexpr (sizeof...(Parameters) == 1) {
+            expectSame(held, std::get<0>(arguments));
+        } else {
+            expectSame(held, arguments);
+        }
+    }
+    static void expectStart(Settings const & settings) { expect(settings, Arguments{}); }
+    static void expectGiven(Settings const & settings) { expect(settings, sample()); }
+    static std::vector<Value> told()
+    {
+        return std::apply([](auto const &... argument) { return std::vector<Value>{plain(argument)...}; }, sample());
+    }
+
+    static constexpr Row row(char const * name)
+    {
+        return {name, false, canBeRead, &give, &expectStart, &expectGiven, &told};
+    }
+};
+
+/// A public data member, which must be of the type `T`.
+template <class Class, class T, T Class::*member> struct Field
 {
-    static_assert(std::is_same_v<Expected, T>, "the member's type");
-    auto const expect = [member](T const & value) {
-        return [member, value](
-                   Settings const & settings) { EXPECT_TRUE(static_cast<Class const &>(settings).*member == value); };
-    };
-    T const given = Sample<T>::make(0);
+    static void give(Settings & settings) { static_cast<Class &>(settings).*member = Sample<T>::make(0); }
+    static void expect(Settings const & settings, T const & value)
+    {
+        EXPECT_TRUE(static_cast<Class const &>(settings).*member == value);
+    }
+    static void expectStart(Settings const & settings) { expect(settings, T{}); }
+    static void expectGiven(Settings const & settings) { expect(settings, Sample<T>::make(0)); }
 
-    Row row;
-    row.name = name;
-    row.isField = true;
-    row.give = [member, given](Settings & settings) { static_cast<Class &>(settings).*member = given; };
-    row.expectStart = expect(T{});
-    row.expectGiven = expect(given);
-    return row;
-}
+    static constexpr Row row(char const * name)
+    {
+        return {name, true, true, &give, &expectStart, &expectGiven, nullptr};
+    }
+};
 
 /// Fails unless the class of `fresh`, a new object, has this name and just these members in this order.
 void check(char const * name, Settings const & fresh, std::vector<Row> const & rows);
@@ -224,5 +241,6 @@ void check(char const * name, Settings const & fresh, std::vector<Row> const & r
         using Class [[maybe_unused]] = Name;                                                                           \
         SettingsClasses::check(#Name, Name(), {__VA_ARGS__});                                                          \
     }
-#define SETTER(Name, ...) SettingsClasses::setter<Class, void(__VA_ARGS__)>(#Name, &Class::Set##Name, &Class::Get##Name)
-#define FIELD(name, ...) SettingsClasses::field<__VA_ARGS__>(#name, &Class::name)
+#define SETTER(Name, ...)                                                                                              \
+    SettingsClasses::Setter<Class, void(__VA_ARGS__), &Class::Set##Name, &Class::Get##Name>::row(#Name)
+#define FIELD(name, ...) SettingsClasses::Field<Class, __VA_ARGS__, &Class::name>::row(#name)

@@ -31,8 +31,8 @@ struct ISFSettings
 /// Largest size of a shader file, in bytes.
 inline constexpr std::size_t maximumFileSize = std::size_t(4) << 20;
 
-/// Largest size of the JSON object in a head, in bytes. What an object says takes a few hundred times its size in memory
-/// while it is read.
+/// Largest size of the JSON object in a head, in bytes. What an object says takes a few hundred times its size in
+/// memory while it is read.
 inline constexpr std::size_t maximumHeadSize = std::size_t(256) << 10;
 
 /// Deepest nesting of arrays and objects in a head.

@@ -17,6 +17,9 @@ public:
     /// The level as an amplitude ratio, 10^(dB / 20): 1 at 0 dB, 0.5 near -6.02 dB.
     double toRelativeLevel() const;
 
+    /// For levels below the reference: `-6_dB`.
+    constexpr Decibel operator-() const { return Decibel(-m_decibels); }
+
     /// Exact.
     friend constexpr bool operator==(Decibel a, Decibel b) { return a.m_decibels == b.m_decibels; }
     friend constexpr bool operator!=(Decibel a, Decibel b) { return !(a == b); }
@@ -24,8 +27,7 @@ public:
 private:
     constexpr explicit Decibel(double decibels)
         : m_decibels(decibels)
-    {
-    }
+    {}
 
     double m_decibels = 0;
 };

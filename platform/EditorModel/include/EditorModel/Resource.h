@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 
 #include <boost/serialization/level.hpp>
 #include <boost/serialization/tracking.hpp>
@@ -19,7 +20,8 @@
 namespace Resource {
 
 /// What a resource is.
-enum class Type : std::int32_t {
+enum class Type : std::int32_t
+{
     None = 0,
     Video = 1,
     Audio = 2,
@@ -112,19 +114,33 @@ EDITORMODEL_EXPORT void registerResource(
 EDITORMODEL_EXPORT void unregisterResource(ID const & id);
 EDITORMODEL_EXPORT bool isResourceRegistered(ID const & id);
 
+/// What a resource was registered with.
+struct Registration
+{
+    QString path;
+    int index = 0;
+    MTime length;
+    Timing timing;
+};
+
+/// Nothing for a resource that is not registered.
+EDITORMODEL_EXPORT std::optional<Registration> registration(ID const & id);
+
 /// The file registered under that name: as a blob, else under any other type. Empty when there is none.
 EDITORMODEL_EXPORT QString registeredPath(QString const & name);
 
-/// The bytes of the file registered under that name. Never null; the blob of what is missing, unreadable or larger
-/// than `maxBlobSize` is empty.
+/// The bytes of the regular file registered under that name. Never null; the blob of what is missing, unreadable or
+/// larger than `maxBlobSize` is empty.
 /// @param error  if not null, told why the blob is empty
 EDITORMODEL_EXPORT std::unique_ptr<Blob> provideBlobResource(QString const & name, QString * error);
 
-/// The picture in the file registered under that name; null when nothing is registered.
+/// The picture in the regular file registered under that name, as an image before other types; null when nothing is
+/// registered. Pixmaps, and so pictures, need a QGuiApplication.
 /// @param error  if not null, told why there is no picture
 EDITORMODEL_EXPORT std::unique_ptr<Image> provideImageResource(QString const & name, QString * error);
 
-inline constexpr std::int64_t maxBlobSize = std::int64_t(256) << 20; ///< bytes
+inline constexpr std::int64_t maxBlobSize = std::int64_t(256) << 20;    ///< bytes
+inline constexpr std::int64_t maxImagePixels = std::int64_t(128) << 20; ///< one with more is no picture
 
 /// @}
 

@@ -34,11 +34,22 @@ class EDITORSERIALIZATION_EXPORT DepthGuard
 {
 public:
     explicit DepthGuard(int & depth);
+    /// The same, but `fail` is given the text and throws, to say where it is.
+    template <class Fail>
+    DepthGuard(int & depth, Fail const & fail)
+        : m_depth(depth)
+    {
+        if (m_depth >= maxObjectDepth)
+            fail(tooDeep());
+        ++m_depth;
+    }
     ~DepthGuard() { --m_depth; }
     DepthGuard(DepthGuard const &) = delete;
     DepthGuard & operator=(DepthGuard const &) = delete;
 
 private:
+    static std::string tooDeep();
+
     int & m_depth;
 };
 

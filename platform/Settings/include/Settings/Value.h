@@ -4,7 +4,6 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <limits>
 #include <string>
 #include <type_traits>
 #include <utility>
@@ -23,37 +22,25 @@ public:
     using Object = std::vector<std::pair<std::string, Value>>; ///< in the order inserted
     using Data = std::variant<std::nullptr_t, bool, std::int64_t, double, std::string, List, Object>;
 
-    Value() = default; ///< null
-    Value(std::nullptr_t) {}
-    Value(double number)
-        : m_data(number)
-    {}
-    Value(char const * text)
-        : m_data(std::string(text))
-    {}
-    Value(std::string text)
-        : m_data(std::move(text))
-    {}
-    Value(List list)
-        : m_data(std::move(list))
-    {}
-    Value(Object object)
-        : m_data(std::move(object))
-    {}
+    Value() noexcept; ///< null
+    Value(std::nullptr_t) noexcept;
+    Value(double number) noexcept;
+    Value(char const * text);
+    Value(std::string text) noexcept;
+    Value(List list) noexcept;
+    Value(Object object) noexcept;
 
     /// Any integer type. What is beyond a signed 64-bit integer becomes the nearest double.
-    template <class Integer, std::enable_if_t<std::is_integral_v<Integer>, int> = 0> Value(Integer number)
-    {
-        if constexpr (std::is_same_v<Integer, bool>) {
-            m_data = number;
-        } else if constexpr (std::is_signed_v<Integer> || sizeof(Integer) < sizeof(std::int64_t)) {
-            m_data = static_cast<std::int64_t>(number);
-        } else if (number <= static_cast<Integer>(std::numeric_limits<std::int64_t>::max())) {
-            m_data = static_cast<std::int64_t>(number);
-        } else {
-            m_data = static_cast<double>(number);
-        }
-    }
+    template <class Integer, std::enable_if_t<std::is_integral_v<Integer>, int> = 0>
+    Value(Integer number) noexcept
+        : Value(Tag(), wide(number))
+    {}
+
+    Value(Value const & other);
+    Value(Value && other) noexcept;
+    Value & operator=(Value const & other);
+    Value & operator=(Value && other) noexcept;
+    ~Value();
 
     Data const & data() const { return m_data; }
 
@@ -70,6 +57,23 @@ public:
     friend bool operator!=(Value const & a, Value const & b) { return !(a == b); }
 
 private:
+    struct Tag
+    {};
+    Value(Tag, bool on) noexcept;
+    Value(Tag, std::int64_t number) noexcept;
+    Value(Tag, std::uint64_t number) noexcept;
+
+    template <class Integer> static auto wide(Integer number)
+    {
+        if constexpr (std::is_same_v<Integer, bool>) {
+            return number;
+        } else if constexpr (std::is_signed_v<Integer>) {
+            return static_cast<std::int64_t>(number);
+        } else {
+            return static_cast<std::uint64_t>(number);
+        }
+    }
+
     Data m_data;
 };
 

@@ -7,18 +7,29 @@
 
 namespace {
 
-std::atomic<std::size_t> allocated{0};
+std::atomic<std::size_t> bytes{0};
+std::atomic<std::size_t> count{0};
 
 } // namespace
 
-std::size_t AllocatedBytes()
+namespace Testing {
+
+std::size_t allocatedBytes()
 {
-    return allocated;
+    return bytes;
 }
+
+std::size_t allocationCount()
+{
+    return count;
+}
+
+} // namespace Testing
 
 void * operator new(std::size_t size)
 {
-    allocated += size;
+    bytes += size;
+    ++count;
     if (void * const memory = std::malloc(size != 0 ? size : 1))
         return memory;
     throw std::bad_alloc();

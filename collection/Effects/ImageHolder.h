@@ -1,0 +1,32 @@
+/// @file
+/// The images that the conversions of one factory have loaded.
+#pragma once
+
+#include <map>
+#include <memory>
+
+#include <Settings/ImageHandler.h>
+
+#include <QString>
+
+namespace Effect::Factory {
+
+/// Decodes each image once and hands it out again and again: a settings object that was given an image shares it, and
+/// keeps it alive when the holder is gone.
+///
+/// There is no limit and no eviction: presets name a few dozen stock images. No lock either: see `SettingsFactory`.
+class ImageHolder
+{
+public:
+    using Image = std::shared_ptr<Quoril::Proc::ImageHandler const>;
+
+    /// The image at `path`, which is read as PNG whatever its name. The pixels are as Qt decodes them: 32 bits each
+    /// without padding for a true-colour file. A file that is missing or broken gives an image without pixels, never
+    /// null, and is not tried again. The reference holds as long as the holder.
+    Image const & image(QString const & path);
+
+private:
+    std::map<QString, Image> m_images;
+};
+
+} // namespace Effect::Factory

@@ -1,0 +1,121 @@
+#include <collection/Effects/Conversions.h>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <cstddef>
+
+#include <ConfInt/ImplNames.h>
+
+#include <QRectF>
+#include <QTransform>
+
+namespace Effect::Factory {
+
+namespace {
+
+/// The engine's number of each blend mode.
+constexpr std::array blendModes{
+    11, // 0
+    6,  // 1
+    24, // 2
+    8,  // 3
+    9,  // 4
+    0,  // 5
+    7,  // 6
+    18, // 7
+    2,  // 8
+    1,  // 9
+    3,  // 10
+    13, // 11
+    12, // 12
+    19, // 13
+};
+
+void fillBlending(Proc::SettingsEffectColorBlender & settings, ColorBlendingBase const & effect)
+{
+    settings.blendMode =
+        blendModes[static_cast<std::size_t>(knownValue(effect.mode, static_cast<int>(blendModes.size())))];
+    settings.SetIntensity(floatIntensity(effect));
+}
+
+/// The picture's own rectangle, mapped around its middle.
+QRectF place(Types::Transform const & transform)
+{
+    return transform.toQTransform().mapRect(QRectF(-0.5, -0.5, 1, 1)).translated(0.5, 0.5);
+}
+
+/// How far a coordinate lies below an edge at 0.
+double overhang(double distance)
+{
+    return std::abs(std::min(distance, 0.0));
+}
+
+} // namespace
+
+void fill(Proc::SettingsEffectSubFrame & settings, SideBySide const & effect, VideoParams const &)
+{
+    QRectF const picture(0, 0, 1, 1);
+    QRectF const mapped = place(effect.transformSrc);
+    QRectF const source = mapped & picture;
+
+    // What the source loses at the picture's edges the target gives up in proportion, so that the two keep
+    // corresponding. A source without a size loses no definite share: its target is not a number.
+    QRectF target = place(effect.transformDst);
+    double const left = overhang(mapped.left()) / mapped.width();
+    double const top = overhang(mapped.top()) / mapped.height();
+    double const right = overhang(1 - mapped.right()) / mapped.width();
+    double const bottom = overhang(1 - mapped.bottom()) / mapped.height();
+    target.adjust(target.width() * left, target.height() * top, -(target.width() * right), -(target.height() * bottom));
+    target &= picture;
+
+    settings.srcLeft = source.left();
+    settings.srcTop = source.top();
+    settings.srcRight = source.right();
+    settings.srcBottom = source.bottom();
+    settings.dstLeft = target.left();
+    settings.dstTop = target.top();
+    settings.dstRight = target.right();
+    settings.dstBottom = target.bottom();
+}
+
+void fill(Proc::SettingsEffectOpacity & settings, Opacity const & effect, VideoParams const &)
+{
+    settings.opacity = effect.opacity;
+}
+
+void fill(Proc::SettingsEffectChromakey & settings, ChromaKey const & effect, VideoParams const &)
+{
+    settings.SetParams(static_cast<double>(effect.hueTolerance), static_cast<double>(effect.noiseLevel) * 0.00390625,
+        static_cast<double>(effect.harshness) / 100.0, static_cast<double>(effect.transparency) / 100.0);
+    auto const [red, green, blue] = channels(effect.color);
+    settings.red = red;
+    settings.green = green;
+    settings.blue = blue;
+}
+
+void fill(Proc::SettingsEffectColorBlender & settings, Overlay const & effect, VideoParams const &)
+{
+    fillBlending(settings, effect);
+}
+
+void fill(Proc::SettingsEffectColorBlender & settings, ColorBlending const & effect, VideoParams const &)
+{
+    fillBlending(settings, effect);
+    settings.SetBaseColor(Proc::ColorF{0, 0, 0, 1});
+}
+
+EffectSettings convertPictureInPicture(Object const & object, VideoParams const &)
+{
+    auto const & effect = dynamic_cast<PictureInPicture const &>(object);
+    // A sub-frame that was told nothing shows the whole picture in the whole frame.
+    if (effect.transform == Types::Transform())
+        return makeEffectSettings(
+            std::make_unique<Proc::SettingsEffectSubFrame>(), Stage::video, Proc::ImplNames::DEFAULT);
+    auto settings = std::make_unique<Proc::SettingsEffectTransform>();
+    settings->mode = Proc::SettingsEffectTransform::Mode::Place;
+    settings->matrix = effect.transform.toMatrix3x3();
+    return makeEffectSettings(std::move(settings), Stage::video, Proc::ImplNames::DEFAULT);
+}
+
+} // namespace Effect::Factory

@@ -1,0 +1,54 @@
+#include <collection/Effects/Conversions.h>
+
+#include <algorithm>
+
+namespace Effect::Factory {
+
+namespace {
+
+float relativeLevel(Decibel level)
+{
+    return static_cast<float>(level.toRelativeLevel());
+}
+
+/// The engine divides by times: none is shorter than a hundredth of a millisecond. Raised first, then narrowed.
+float raisedTime(std::int64_t milliseconds)
+{
+    return static_cast<float>(std::max(static_cast<double>(milliseconds), 0.01));
+}
+
+template <class Settings> void setDetectionAndLink(Settings & settings, AudioDynamics const & effect)
+{
+    settings.detection = knownValue(effect.detection, 2);
+    settings.link = knownValue(effect.link, 2);
+}
+
+} // namespace
+
+void fill(Proc::SettingsAudioGate & settings, AudioNoiseGate const & effect, AudioParams const &)
+{
+    settings.SetThreshold(relativeLevel(effect.threshold));
+    setDetectionAndLink(settings, effect);
+    settings.SetLevelIn(relativeLevel(effect.gainIn));
+    settings.SetIntensity(floatIntensity(effect));
+    settings.SetRatio(static_cast<float>(effect.ratio));
+    settings.SetAttackMs(raisedTime(effect.attack));
+    settings.SetReleaseMs(raisedTime(effect.release));
+    settings.SetMakeup(relativeLevel(effect.gainOut));
+    settings.SetKnee(static_cast<float>(effect.knee));
+}
+
+void fill(Proc::SettingsAudioCompressor & settings, AudioCompressor const & effect, AudioParams const &)
+{
+    settings.SetIntensity(floatIntensity(effect));
+    setDetectionAndLink(settings, effect);
+    settings.SetLevelIn(relativeLevel(effect.gainIn));
+    settings.SetThreshold(effect.threshold.toRelativeLevel()); // the one level that the engine takes in full
+    settings.SetRatio(static_cast<float>(effect.ratio));
+    settings.SetAttack(raisedTime(effect.attack));
+    settings.SetRelease(raisedTime(effect.release));
+    settings.SetMakeup(relativeLevel(effect.gainOut));
+    settings.SetKnee(static_cast<float>(effect.knee));
+}
+
+} // namespace Effect::Factory

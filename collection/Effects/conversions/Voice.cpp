@@ -1,0 +1,102 @@
+#include <collection/Effects/Conversions.h>
+
+#include <cmath>
+
+namespace Effect::Factory {
+
+namespace {
+
+using Bands = std::vector<Proc::SettingsAudioEqualizer::BandEq>;
+
+/// Ten bands an octave apart, 32 to 16384 Hz, each with the gain of its exponent.
+template <class Gain> Bands octaves(Gain gain)
+{
+    Bands bands;
+    for (int exponent = 5; exponent <= 14; ++exponent)
+        bands.push_back({1 << exponent, gain(exponent)});
+    return bands;
+}
+
+/// A frequency as the nearest power of two. Where there is none, at 0 Hz and below, it lies below every band.
+int nearestExponent(std::int32_t frequency)
+{
+    return saturatedInt(std::round(std::log2(frequency)));
+}
+
+/// The effect's `gainUp` between its bounds, 0 at the bounds and its `gainDown` taken away outside.
+template <class Effect> Bands bandPass(Effect const & effect)
+{
+    int const low = nearestExponent(effect.lBound);
+    int const high = nearestExponent(effect.rBound);
+    return octaves([&](int exponent) -> double {
+        if (exponent == low || exponent == high)
+            return 0;
+        if (low < exponent && exponent < high)
+            return effect.gainUp;
+        // Negated as an integer, which knows no -0, and a wide one, which holds the result.
+        return static_cast<double>(-std::int64_t(effect.gainDown));
+    });
+}
+
+/// The sum, going around where it would overflow.
+std::int32_t wrappingSum(std::int32_t a, std::int32_t b)
+{
+    return static_cast<std::int32_t>(static_cast<std::uint32_t>(a) + static_cast<std::uint32_t>(b));
+}
+
+} // namespace
+
+void fill(Proc::SettingsAudioEqualizer & settings, AudioPhone const & effect, AudioParams const &)
+{
+    settings.SetMultiband(bandPass(effect));
+    settings.SetIntensity(floatIntensity(effect));
+}
+
+void fill(Proc::SettingsAudioEqualizer & settings, AudioMuffle const & effect, AudioParams const &)
+{
+    double const peak = std::log2(effect.mean);
+    double const width = 2 * (effect.dispersion * effect.dispersion);
+    double const height = wrappingSum(effect.gainUp, effect.gainDown);
+    settings.SetMultiband(octaves([&](int exponent) {
+        double const distance = peak - exponent;
+        return height * std::exp(-(distance * distance) / width) - effect.gainDown;
+    }));
+    settings.SetIntensity(floatIntensity(effect));
+}
+
+void fill(Proc::SettingsAudioRadio & settings, AudioRadio const & effect, AudioParams const &)
+{
+    Proc::SettingsAudioEqualizer equalizer;
+    equalizer.SetMultiband(bandPass(effect));
+    settings.SetEqSettings(equalizer);
+    settings.SetCracklePrecision(effect.cracklePrecision);
+    settings.SetNoiseLevel(effect.noiseLevel);
+    settings.SetIntensity(floatIntensity(effect));
+}
+
+void fill(Proc::SettingsAudioEcho & settings, AudioEcho const & effect, AudioParams const &)
+{
+    std::vector<Proc::SettingsAudioEcho::Echo> echos;
+    for (auto const & echo : effect.echos)
+        echos.push_back({echo.delay, echo.decay});
+    settings.SetGainInOut(effect.gainIn, effect.gainOut);
+    settings.SetEchos(echos);
+    settings.SetIntensity(floatIntensity(effect));
+}
+
+void fill(Proc::SettingsAudioPitch & settings, AudioPitch const & effect, AudioParams const &)
+{
+    settings.SetPitch(effect.pitch);
+    settings.SetIntensity(floatIntensity(effect));
+}
+
+void fill(Proc::SettingsAudioRobot & settings, AudioRobot const & effect, AudioParams const &)
+{
+    settings.SetLevel(effect.level);
+    Proc::SettingsAudioPitch pitch;
+    pitch.SetPitch(effect.pitch);
+    settings.SetPitchSettings(pitch);
+    settings.SetIntensity(floatIntensity(effect));
+}
+
+} // namespace Effect::Factory

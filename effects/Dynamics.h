@@ -1,0 +1,55 @@
+/// @file
+/// Dynamics: a noise gate and a compressor.
+#pragma once
+
+#include <cstdint>
+
+#include <EditorModel/Decibel.h>
+#include <effects/Base.h>
+
+namespace Effect {
+
+/// What the two dynamics processors have in common. It stands in no archive: each archives the fields as its own.
+struct EFFECTS_API AudioDynamics : AudioEffect
+{
+    /// The number of a level detector, 0 or 1. Others count as 0.
+    enum class Detection : std::int32_t
+    {
+    };
+    /// The number of a way to link the channels, 0 or 1. Others count as 0.
+    enum class Link : std::int32_t
+    {
+    };
+
+    Detection detection{0};
+    Link link{0};
+    Decibel gainIn = 0.0_dB;                         ///< level at the input
+    Decibel threshold = Decibel::fromDbLevel(-18.1); ///< level at which the processor acts
+    double ratio = 2.0;
+    std::int64_t attack = 20;   ///< in milliseconds; the engine gets at least 0.01
+    std::int64_t release = 250; ///< in milliseconds; the engine gets at least 0.01
+    Decibel gainOut = 0.0_dB;   ///< make-up gain
+    double knee;                ///< width of the knee, as a ratio
+
+protected:
+    AudioDynamics(QString const & effectId, double kneeWidth);
+};
+
+/// Silences what is below the threshold.
+struct EFFECTS_API AudioNoiseGate : AudioDynamics
+{
+    EFFECT_FILTER_CLASS(AudioNoiseGate)
+
+    /// The intensity seen from the other end, 1 being no gate at all. It hides the range of the base, which remains
+    /// as `Object::range`.
+    double range() const;
+    void setRange(double value);
+};
+
+/// Turns down what is above the threshold.
+struct EFFECTS_API AudioCompressor : AudioDynamics
+{
+    EFFECT_FILTER_CLASS(AudioCompressor)
+};
+
+} // namespace Effect

@@ -1,0 +1,35 @@
+#include <effects/Modulation.h>
+
+#include <effects/Identity.h>
+
+namespace Effect {
+
+AudioDistortion::AudioDistortion()
+    : AudioEffect(Id::Distortion, Id::Distortion)
+{
+    tag = Tags::tagAudioDistortion;
+    intensity = 0.5;
+}
+
+AudioFlanger::AudioFlanger()
+    : AudioEffect(Id::Flanger, Id::Flanger)
+{
+    tag = Tags::tagAudioFlanger;
+    intensity = 0.71;
+}
+
+AudioVibrato::AudioVibrato()
+    : AudioEffect(Id::Vibrato, Id::Vibrato)
+{
+    tag = Tags::tagAudioVibrato;
+    intensity = 0.8;
+}
+
+EFFECT_FILTER_OVERRIDES(AudioDistortion, Tags::tagAudioDistortion)
+EFFECT_FILTER_OVERRIDES(AudioFlanger, Tags::tagAudioFlanger)
+EFFECT_FILTER_OVERRIDES(AudioVibrato, Tags::tagAudioVibrato)
+
+EFFECT_CONSTRUCTOR(AudioReverb, AudioFilter, Id::Reverb, Id::Reverb, Tags::tagAudioReverb)
+EFFECT_DEFAULT_TAG(AudioReverb, Tags::tagAudioReverb)
+
+} // namespace Effect

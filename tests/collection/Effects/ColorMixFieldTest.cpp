@@ -1,0 +1,102 @@
+// A host that has the class which the library only names: this program, outside of the shared library.
+
+#include <string>
+#include <typeinfo>
+
+#include <EditorModel/EffectArchive.h>
+#include <EditorModel/EffectFactory.h>
+#include <effects/archive/Base.h>
+#include <effects/Effects.h>
+#include <serialization/Register.h>
+#include <Settings/Settings.h>
+#include <Settings/Trace.h>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+QString const identifier = QLatin1String("4675ad3e-cffd-4979-ae1f-5cbf07e8cbdd");
+
+} // namespace
+
+namespace Effect {
+
+struct EFFECTS_API ColorMixField : VideoEffect
+{
+    EFFECT_CLASS(ColorMixField)
+
+    ColorMixField()
+        : VideoEffect(identifier, identifier)
+    {}
+    bool hasIntensity() const override { return true; }
+
+    double threshold = 0.25;
+    double contrast = 0.5;
+    std::uint32_t color = 0x80FF0102;
+    std::string note; // what the library knows nothing of
+};
+
+EFFECT_VIDEO_FIELDS(ColorMixField, threshold, contrast, color, note)
+
+} // namespace Effect
+
+EFFECT_KEY(ColorMixField)
+EFFECT_REGISTER(ColorMixField)
+
+namespace {
+
+using namespace Effect;
+
+struct DerivedField final : ColorMixField
+{};
+
+std::string converted(Object const & effect)
+{
+    Quoril::Proc::Trace const trace;
+    auto const record = Factory::videoEffectSettings(effect, {});
+    EXPECT_EQ(record.stageCode, 18);
+    EXPECT_EQ(record.implementation, "DEFAULT");
+    return record.settings.size() == 1 ? trace.describe(*record.settings[0]).toString() : std::string();
+}
+
+class ColorMixFieldOfAHost : public testing::Test
+{
+    ContentProvider m_provider;
+};
+
+TEST_F(ColorMixFieldOfAHost, IsConverted)
+{
+    ColorMixField effect;
+    effect.intensity = 0.1; // reaches no setting
+    EXPECT_EQ(converted(effect), R"({"class": "SettingsEffectColorMixField", "calls": [["SetThreshold", 0.25], )"
+                                 R"(["SetContrast", 0.5], ["SetFieldColor", 255, 1, 2]], "fields": {}})");
+}
+
+TEST_F(ColorMixFieldOfAHost, IsConvertedAsABase)
+{
+    DerivedField effect;
+    effect.threshold = -1;
+    effect.contrast = 2;
+    effect.color = 3;
+    EXPECT_EQ(converted(effect), R"({"class": "SettingsEffectColorMixField", "calls": [["SetThreshold", -1], )"
+                                 R"(["SetContrast", 2], ["SetFieldColor", 0, 0, 3]], "fields": {}})");
+}
+
+TEST_F(ColorMixFieldOfAHost, IsConvertedAfterItsWayThroughAnArchive)
+{
+    ColorMixField effect;
+    effect.threshold = 0.75;
+    effect.note = "a host's own";
+    auto const read = Archive::fromJson(Archive::toJson(effect));
+    EXPECT_EQ(dynamic_cast<ColorMixField const &>(*read).note, "a host's own");
+    EXPECT_EQ(converted(*Archive::fromBinary(Archive::toBinary(*read))),
+        R"({"class": "SettingsEffectColorMixField", "calls": [["SetThreshold", 0.75], )"
+        R"(["SetContrast", 0.5], ["SetFieldColor", 255, 1, 2]], "fields": {}})");
+}
+
+TEST_F(ColorMixFieldOfAHost, IsNoOtherClass)
+{
+    EXPECT_THROW(Factory::videoEffectSettings(VideoEffect(identifier, identifier), {}), std::bad_cast);
+}
+
+} // namespace
