@@ -13,13 +13,12 @@ set(EDITOREFFECTS_PUBLIC_HEADERS
   effects/Effects.h
   effects/Equalizer.h
   effects/Export.h
-  effects/Identity.h
-  utils/EffectUtils.h)
   effects/Geometry.h
   effects/Holder.h
   effects/Identity.h
   effects/Mask.h
   effects/Modulation.h
+  utils/EffectUtils.h
 )
 
 # A family is a source of each of three kinds, of its own name. Static initialisers run in this order: the exported
@@ -54,12 +53,11 @@ target_sources(EditorEffectsObjects PRIVATE effects/Identity.cpp)
 add_families(${hidden_families})
 target_sources(EditorEffectsObjects PRIVATE
   effects/PrivateIdentity.cpp
+  collection/Effects/CollectionNames.cpp
   collection/Effects/ContentProvider.cpp
   collection/Effects/ImageHolder.cpp
   collection/Effects/SettingsFactory.cpp
-  collection/Effects/ContentProvider.cpp
-  collection/Effects/CollectionNames.cpp
-  utils/EffectUtils.cpp)
+  utils/EffectUtils.cpp
 )
 target_include_directories(EditorEffectsObjects PUBLIC "$<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>")
 target_link_libraries(EditorEffectsObjects

@@ -12,6 +12,6 @@
 #include <effects/Geometry.h>
 #include <effects/Holder.h>
 #include <effects/Identity.h>
-#include <utils/EffectUtils.h>
 #include <effects/Mask.h>
 #include <effects/Modulation.h>
+#include <utils/EffectUtils.h>
