@@ -20,6 +20,7 @@ set(EDITOREFFECTS_PUBLIC_HEADERS
   effects/Modulation.h
   effects/Shaders.h
   utils/LutUtils.h
+  utils/EffectUtils.h
 )
 
 # A family is a source of each of three kinds, of its own name. Static initialisers run in this order: the exported
@@ -54,10 +55,12 @@ target_sources(EditorEffectsObjects PRIVATE effects/Identity.cpp)
 add_families(${hidden_families})
 target_sources(EditorEffectsObjects PRIVATE
   effects/PrivateIdentity.cpp
+  collection/Effects/CollectionNames.cpp
   collection/Effects/ContentProvider.cpp
   collection/Effects/ImageHolder.cpp
   collection/Effects/SettingsFactory.cpp
   utils/LutUtils.cpp
+  utils/EffectUtils.cpp
 )
 target_include_directories(EditorEffectsObjects PUBLIC "$<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>")
 target_link_libraries(EditorEffectsObjects

@@ -16,3 +16,4 @@
 #include <effects/Modulation.h>
 #include <effects/Shaders.h>
 #include <utils/LutUtils.h>
+#include <utils/EffectUtils.h>
