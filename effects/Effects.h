@@ -15,5 +15,5 @@
 #include <effects/Mask.h>
 #include <effects/Modulation.h>
 #include <effects/Shaders.h>
-#include <utils/LutUtils.h>
 #include <utils/EffectUtils.h>
+#include <utils/LutUtils.h>
