@@ -22,6 +22,8 @@ int main(int argc, char ** argv)
     Host::addShow(program);
     Host::addArchive(program);
     Host::addConvert(program);
+    Host::addCatalogue(program);
+    Host::addTool(program);
 
     try {
         program.parse(argc, argv);
