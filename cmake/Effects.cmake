@@ -18,7 +18,9 @@ set(EDITOREFFECTS_PUBLIC_HEADERS
   effects/Identity.h
   effects/Mask.h
   effects/Modulation.h
+  effects/Shaders.h
   utils/EffectUtils.h
+  utils/LutUtils.h
 )
 
 # A family is a source of each of three kinds, of its own name. Static initialisers run in this order: the exported
@@ -58,6 +60,7 @@ target_sources(EditorEffectsObjects PRIVATE
   collection/Effects/ImageHolder.cpp
   collection/Effects/SettingsFactory.cpp
   utils/EffectUtils.cpp
+  utils/LutUtils.cpp
 )
 target_include_directories(EditorEffectsObjects PUBLIC "$<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>")
 target_link_libraries(EditorEffectsObjects

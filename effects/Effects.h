@@ -14,4 +14,6 @@
 #include <effects/Identity.h>
 #include <effects/Mask.h>
 #include <effects/Modulation.h>
+#include <effects/Shaders.h>
 #include <utils/EffectUtils.h>
+#include <utils/LutUtils.h>

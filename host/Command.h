@@ -3,6 +3,7 @@
 #pragma once
 
 #include <functional>
+#include <iostream>
 #include <stdexcept>
 #include <string>
 
@@ -24,6 +25,13 @@ public:
     using std::runtime_error::runtime_error;
 };
 
+/// Tells what went wrong, in one line on standard error. A command that goes on after it ends by throwing
+/// `CLI::RuntimeError(Status::badInput)`, which says nothing more.
+inline void complain(std::exception const & error)
+{
+    std::cerr << "effectctl: " << error.what() << '\n';
+}
+
 /// @name The subcommands
 /// Each adds itself to the program and runs when it is chosen.
 /// @{
@@ -31,6 +39,7 @@ void addArchive(CLI::App & program);
 void addCatalogue(CLI::App & program);
 void addConvert(CLI::App & program);
 void addList(CLI::App & program);
+void addLut(CLI::App & program);
 void addShow(CLI::App & program);
 void addTool(CLI::App & program);
 /// @}

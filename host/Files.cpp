@@ -1,7 +1,7 @@
 #include "Files.h"
 
+#include <cstdio>
 #include <iostream>
-#include <iterator>
 
 #include <EditorModel/EffectArchive.h>
 
@@ -27,16 +27,15 @@ constexpr std::string_view binaryStart = "EEAR";
 
 std::string readFile(std::string const & path)
 {
-    if (path == standardStream)
-        return {std::istreambuf_iterator<char>(std::cin), {}};
     QFile file(QString::fromStdString(path));
-    if (!file.open(QIODevice::ReadOnly))
+    if (!(path == standardStream ? file.open(stdin, QIODevice::ReadOnly) : file.open(QIODevice::ReadOnly)))
         fail(path, file);
-    if (file.size() > largestFile)
-        throw Failure(path + ": larger than 256 MiB");
-    QByteArray const bytes = file.readAll();
+    // A device may be endless and a pipe does not tell its size, so the limit is found out by reading.
+    QByteArray const bytes = file.read(largestFile + 1);
     if (file.error() != QFileDevice::NoError)
         fail(path, file);
+    if (bytes.size() > largestFile)
+        throw Failure(path + ": larger than 256 MiB");
     return bytes.toStdString();
 }
 

@@ -23,17 +23,17 @@ int main(int argc, char ** argv)
     Host::addArchive(program);
     Host::addConvert(program);
     Host::addCatalogue(program);
+    Host::addLut(program);
     Host::addTool(program);
 
     try {
         program.parse(argc, argv);
+    } catch (CLI::RuntimeError const & error) {
+        return error.get_exit_code();
     } catch (CLI::ParseError const & error) {
         return program.exit(error) == 0 ? Host::Status::done : Host::Status::wrongUsage;
-    } catch (Host::Failure const & failure) {
-        std::cerr << "effectctl: " << failure.what() << '\n';
-        return Host::Status::badInput;
     } catch (std::exception const & error) {
-        std::cerr << "effectctl: " << error.what() << '\n';
+        Host::complain(error);
         return Host::Status::badInput;
     }
     std::cout.flush();

@@ -27,7 +27,12 @@ ImageHolder::Image const & ImageHolder::image(QString const & path)
     auto const found = m_images.find(path);
     if (found != m_images.end())
         return found->second;
-    return m_images.emplace(path, std::make_shared<Handler const>(QImage(path, "PNG"))).first->second;
+    return m_images.emplace(path, holdImage(QImage(path, "PNG"))).first->second;
+}
+
+ImageHolder::Image holdImage(QImage decoded)
+{
+    return std::make_shared<Handler const>(std::move(decoded));
 }
 
 } // namespace Effect::Factory

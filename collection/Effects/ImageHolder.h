@@ -9,6 +9,8 @@
 
 #include <QString>
 
+class QImage;
+
 namespace Effect::Factory {
 
 /// Decodes each image once and hands it out again and again: a settings object that was given an image shares it, and
@@ -28,5 +30,8 @@ public:
 private:
     std::map<QString, Image> m_images;
 };
+
+/// The engine's record of a decoded image, whose pixels it keeps alive.
+ImageHolder::Image holdImage(QImage decoded);
 
 } // namespace Effect::Factory

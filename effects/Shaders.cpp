@@ -1,0 +1,52 @@
+#include <effects/Shaders.h>
+
+#include <effects/Identity.h>
+
+namespace Effect {
+
+namespace {
+
+/// What names the file until the host names another.
+constexpr QLatin1String noResource("no resource");
+
+} // namespace
+
+Lut::Lut()
+    : Lut(noResource)
+{}
+
+Lut::Lut(QString const & name)
+    : VideoEffect(Id::Lut, name)
+{
+    tag = Tags::tagLut;
+    resource = Resource::ID(name, Resource::Type::Blob);
+}
+
+EFFECT_FILTER_OVERRIDES(Lut, Tags::tagLut)
+
+ShaderISF::ShaderISF()
+    : ShaderISF(noResource)
+{}
+
+ShaderISF::ShaderISF(QString const & name)
+    : VideoEffect(Id::ShaderISF, name)
+{
+    tag = Tags::tagShaderISF;
+    resource = Resource::ID(name, Resource::Type::Blob);
+}
+
+ShaderISF::DownloadResourceType ShaderISF::downloadResourceType() const
+{
+    return DownloadResourceType::Shader;
+}
+
+EFFECT_DEFAULT_TAG(ShaderISF, Tags::tagShaderISF)
+
+EFFECT_CONSTRUCTOR(ExternalShader, VideoEffect, Id::ExternalShader, Id::ExternalShader, Tags::tagExternalShader)
+
+bool ExternalShader::hasIntensity() const
+{
+    return supportsIntensity;
+}
+
+} // namespace Effect
