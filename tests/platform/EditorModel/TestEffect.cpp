@@ -49,7 +49,8 @@ template <class Archive> void Record::serialize(Archive &) {}
     template struct boost::archive::detail::ptr_serialization_support<Serialize::BinaryOArchive, Class>;               \
     template struct boost::archive::detail::ptr_serialization_support<Serialize::BinaryIArchive, Class>;               \
     template struct boost::archive::detail::ptr_serialization_support<Serialize::Json::oarchive, Class>;               \
-    template struct boost::archive::detail::ptr_serialization_support<Serialize::Json::iarchive, Class>;
+    template struct boost::archive::detail::ptr_serialization_support<Serialize::Json::iarchive, Class>;               \
+    template struct boost::archive::detail::ptr_serialization_support<Serialize::ObjectTracker, Class>;
 
 TEST_CLASS(Sample::Effect)
 TEST_CLASS(Sample::Record)
