@@ -1,5 +1,6 @@
 #include <EditorSerialization/Registry.h>
 
+#include <algorithm>
 #include <optional>
 
 #include <support/LogCapture.h>
@@ -54,10 +55,10 @@ TEST(Registry, ASecondRegistrationIsReportedAndDropped)
     static char const first[] = "Test::Twice";
     static char const second[] = "Test::Twice";
     std::optional<Serialize::Registrator> registrator(std::in_place, first, new LeafCreator);
-    Testing::LogCapture log;
+    LogCapture const log;
     {
         Serialize::Registrator const again(second, nullptr);
-        EXPECT_THAT(log.lines, testing::ElementsAre(testing::HasSubstr("Test::Twice is registered twice")));
+        EXPECT_THAT(log.errors(), testing::ElementsAre(testing::HasSubstr("Test::Twice is registered twice")));
     }
     // The second one takes nothing back when it goes.
     EXPECT_NE(Serialize::Registry::create("Test::Twice"), nullptr);
