@@ -35,7 +35,13 @@ template <class... Values> std::string bytes(Values const &... values)
     return bytes;
 }
 
-std::string const header = "EEAR" + bytes(std::uint16_t(19));
+std::uint16_t libraryVersion()
+{
+    boost::serialization::library_version_type const version = boost::archive::BOOST_ARCHIVE_VERSION();
+    return version;
+}
+
+std::string const header = "EEAR" + bytes(libraryVersion());
 
 /// What is thrown when an object is read from the bytes that follow a good header.
 template <class Read> std::string errorOf(std::string const & content, int code, Read const & read)
