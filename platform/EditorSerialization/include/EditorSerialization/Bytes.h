@@ -57,7 +57,7 @@ public:
     /// A value that is not there whole changes nothing.
     template <class T> void read(T & value)
     {
-        T whole;
+        T whole(value);
         read(&whole, sizeof whole);
         value = whole;
     }
