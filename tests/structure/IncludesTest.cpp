@@ -77,8 +77,9 @@ TEST(Includes, ProductFoldersPointOneWay)
         auto const includes = includesBelow(folder);
         EXPECT_FALSE(includes.empty()) << folder;
         for (Include const & include : includes)
-            if (productFolders.count(firstPart(include.target)))
+            if (productFolders.count(firstPart(include.target))) {
                 EXPECT_THAT(targets, testing::Contains(firstPart(include.target))) << testing::PrintToString(include);
+            }
     }
 }
 

@@ -8,6 +8,7 @@
 #include <support/Filter.h>
 #include <support/Images.h>
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 namespace {
@@ -16,6 +17,7 @@ using namespace Effect;
 using Testing::convert;
 using testing::ElementsAre;
 using testing::IsEmpty;
+using Testing::expectConversion;
 using Testing::settings;
 using Testing::writeImage;
 

@@ -5,6 +5,7 @@
 #include <support/Conversion.h>
 #include <support/Filter.h>
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 namespace {
@@ -13,6 +14,7 @@ using namespace Effect;
 using Testing::convert;
 using testing::ElementsAre;
 using testing::IsEmpty;
+using Testing::expectConversion;
 using Testing::settings;
 
 class DistortionConversion : public Testing::ConversionTest

@@ -21,6 +21,7 @@ namespace Proc = Quoril::Proc;
 using Testing::convert;
 using testing::ElementsAre;
 using testing::IsEmpty;
+using Testing::expectConversion;
 using Testing::settings;
 using Testing::writeImage;
 
