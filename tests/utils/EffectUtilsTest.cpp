@@ -52,6 +52,19 @@ TEST_F(EffectResourceTest, IsRegisteredAndUnregistered)
     EXPECT_FALSE(isRegistered());
 }
 
+TEST_F(EffectResourceTest, HasTheLengthOfTheRange)
+{
+    registerEffectResource(effect);
+    EXPECT_EQ(Resource::registration(effect.resource)->length, MTime());
+    EXPECT_EQ(Resource::registration(effect.resource)->index, 0);
+    unregisterEffectResource(effect);
+
+    effect.range = Types::Range(MTime(5), MTime(7));
+    registerEffectResource(effect);
+    EXPECT_EQ(Resource::registration(effect.resource)->length, MTime(7));
+    EXPECT_EQ(Resource::registration(effect.resource)->timing.length, MTime());
+}
+
 TEST_F(EffectResourceTest, WithoutAPathIsNeitherRegisteredNorUnregistered)
 {
     QString const path = std::exchange(effect.resourcePath, QString(""));
