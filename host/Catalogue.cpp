@@ -1,5 +1,5 @@
+#include <algorithm>
 #include <chrono>
-#include <cstdio>
 #include <iostream>
 
 #include <unistd.h>
@@ -143,13 +143,19 @@ void printCollection(std::ostream & stream, json const & collection)
     std::vector<std::vector<std::string>> rows{{"  CLASS", "TAG", "ID", "GROUP", "CATEGORIES", "USER"}};
     if (areConverted)
         rows.back().push_back("RESULT");
-    auto const cell = [](std::string const & text) { return text.empty() ? "-" : text; };
+    // Quoted where it is needed, as a file may put anything into its texts.
+    auto const cell = [](std::string const & text) {
+        if (text.empty())
+            return std::string("-");
+        bool const isPlain = std::all_of(text.begin(), text.end(), [](unsigned char byte) { return byte > ' '; });
+        return isPlain ? text : json(text).dump();
+    };
     for (json const & item : items) {
         std::string categories;
         for (json const & category : item["categories"])
-            categories += (categories.empty() ? "" : " ") + category.get<std::string>();
+            categories += (categories.empty() ? "" : " ") + cell(category);
         rows.push_back({"  " + item["class"].get<std::string>(), cell(item["tag"]), cell(item["id"]),
-            cell(item["groupId"]), cell(categories), item["user"] ? "yes" : "no"});
+            cell(item["groupId"]), categories.empty() ? "-" : categories, item["user"] ? "yes" : "no"});
         if (areConverted)
             rows.back().push_back(item["result"]);
     }
@@ -203,7 +209,7 @@ void catalogue(Options const & options)
     Summary summary;
     summary.unreadable = storage.progress().failed;
     json collections = json::array();
-    std::vector<std::string> failures;
+    std::vector<Failure> failures;
     for (auto const * const collection : EditorCollection::CollectionProvider::collections()) {
         std::string const name = collection->name().toStdString();
         json items = json::array();
@@ -212,9 +218,9 @@ void catalogue(Options const & options)
             if (options.convert)
                 convertItem(host, item->payload(), described, summary);
             if (described.contains("reason"))
-                failures.push_back(name + ": " + described["class"].get<std::string>() + " \"" +
-                                   described["tag"].get<std::string>() +
-                                   "\" did not convert: " + described["reason"].get<std::string>());
+                failures.emplace_back(name + ": " + described["class"].get<std::string>() + ' ' +
+                                      described["tag"].dump() +
+                                      " did not convert: " + described["reason"].get<std::string>());
             items.push_back(std::move(described));
         }
         summary.items += items.size();
@@ -228,14 +234,11 @@ void catalogue(Options const & options)
             printCollection(std::cout, collection);
         printSummary(std::cout, summary, options.convert);
     }
-    std::cout.flush();
-    for (std::string const & failure : failures)
-        std::cerr << failure << '\n';
-    if (!failures.empty())
-        throw Failure(
-            std::to_string(failures.size()) + " of " + std::to_string(summary.items) + " items did not convert");
-    if (summary.unreadable > 0)
-        throw Failure(std::to_string(summary.unreadable) + " files could not be read");
+    for (Failure const & failure : failures)
+        complain(failure);
+    // What could not be read has been logged.
+    if (!failures.empty() || summary.unreadable > 0)
+        throw CLI::RuntimeError(Status::badInput);
 }
 
 } // namespace

@@ -51,6 +51,15 @@ char const * nameOf(Tool::Type tool)
     return "";
 }
 
+json describe(std::string const & file)
+{
+    auto const effect = readEffect(file);
+    Tool::Type const tool = Effect::Utils::findCorrespondingTool(*effect);
+    return {{"file", asText(file)}, {"class", effect->GetNameInArchive()}, {"tool", static_cast<int>(tool)},
+        {"name", nameOf(tool)}};
+}
+
+/// One bad file does not keep the others from being told.
 void tool(std::vector<std::string> const & files, bool asJson)
 {
     // The stock's audio effects tell the tool of an effect that nothing else does.
@@ -59,17 +68,23 @@ void tool(std::vector<std::string> const & files, bool asJson)
     storage.waitForAll();
 
     json tools = json::array();
+    bool failed = false;
     for (std::string const & file : files) {
-        auto const effect = readEffect(file);
-        Tool::Type const found = Effect::Utils::findCorrespondingTool(*effect);
-        tools.push_back({{"file", file}, {"class", effect->GetNameInArchive()}, {"tool", static_cast<int>(found)},
-            {"name", nameOf(found)}});
+        try {
+            tools.push_back(describe(file));
+            if (!asJson)
+                std::cout << file << ": " << tools.back()["tool"] << ", " << tools.back()["name"].get<std::string>()
+                          << '\n';
+        } catch (std::exception const & error) {
+            complain(error);
+            tools.push_back({{"file", asText(file)}, {"error", asText(error.what())}});
+            failed = true;
+        }
     }
     if (asJson)
-        return printJson(std::cout, tools.size() == 1 ? tools[0] : tools);
-    for (json const & entry : tools)
-        std::cout << entry["file"].get<std::string>() << ": " << entry["tool"] << ", "
-                  << entry["name"].get<std::string>() << '\n';
+        printJson(std::cout, tools);
+    if (failed)
+        throw CLI::RuntimeError(Status::badInput);
 }
 
 } // namespace
@@ -80,7 +95,7 @@ void addTool(CLI::App & program)
     auto const files = std::make_shared<std::vector<std::string>>();
     auto const asJson = std::make_shared<bool>(false);
     command->add_option("FILE", *files, "Archives in either form, - for standard input")->required();
-    command->add_flag("--json", *asJson, "Print one JSON document");
+    command->add_flag("--json", *asJson, "Print one JSON document, an array with an object for each file");
     setExamples(*command, "  effectctl tool crop.json\n  effectctl tool --json crop.json echo.bin");
     command->callback([files, asJson] { tool(*files, *asJson); });
 }
