@@ -55,10 +55,10 @@ target_sources(EditorEffectsObjects PRIVATE effects/Identity.cpp)
 add_families(${hidden_families})
 target_sources(EditorEffectsObjects PRIVATE
   effects/PrivateIdentity.cpp
-  collection/Effects/CollectionNames.cpp
   collection/Effects/ContentProvider.cpp
   collection/Effects/ImageHolder.cpp
   collection/Effects/SettingsFactory.cpp
+  utils/CollectionNames.cpp
   utils/EffectUtils.cpp
   utils/LutUtils.cpp
 )

@@ -1,6 +1,6 @@
 #include <utils/EffectUtils.h>
 
-#include <collection/Effects/CollectionNames.h>
+#include <utils/CollectionNames.h>
 #include <EditorModel/CollectionProvider.h>
 #include <effects/PrivateIdentity.h>
 #include <FileSystem/FileSystem.h>

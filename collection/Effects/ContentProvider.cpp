@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include <collection/Effects/CollectionNames.h>
+#include <utils/CollectionNames.h>
 #include <collection/Effects/SettingsFactory.h>
 #include <EditorModel/CollectionProvider.h>
 #include <EditorModel/UserBlob.h>

@@ -260,7 +260,8 @@ TEST_F(StockTest, EveryItemConverts)
 /// The only argument of the first call of that name in a settings object's description.
 nlohmann::json argumentOf(Testing::Converted const & converted, char const * setter)
 {
-    for (auto const & call : nlohmann::json::parse(converted.settings.at(0))["calls"])
+    nlohmann::json const settings = nlohmann::json::parse(converted.settings.at(0));
+    for (auto const & call : settings["calls"])
         if (call[0] == setter)
             return call[1];
     return {};

@@ -38,7 +38,7 @@ json variedValue(std::string const & key, json value)
     if (value.is_number_integer())
         return value.get<std::int64_t>() + 1;
     if (value.is_number_float())
-        return value.get<double>() * 1.5 + 0.125;
+        return value.get<double>() * 1.5 + 0.1875;
     if (value.is_string())
         return value.get<std::string>() + u8" é\U0001D11E";
     if (value.is_array() && value.empty()) {

@@ -41,9 +41,11 @@ template <class Integer> void loadInteger(json const & value, Integer & number)
 {
     if (!value.is_number_integer())
         failType(value, "an integer");
+    using Limits = std::numeric_limits<Integer>;
     bool const fits = value.is_number_unsigned()
-        ? value.get<std::uint64_t>() <= static_cast<std::uint64_t>(std::numeric_limits<Integer>::max())
-        : std::is_signed_v<Integer> && value.get<std::int64_t>() >= std::int64_t(std::numeric_limits<Integer>::min());
+        ? value.get<std::uint64_t>() <= static_cast<std::uint64_t>(Limits::max())
+        : value.get<std::int64_t>() >= std::int64_t(Limits::min()) &&
+            value.get<std::int64_t>() <= std::int64_t(Limits::max());
     if (!fits)
         throw ArchiveError(ArchiveError::other_exception, "the number " + value.dump() + " is out of range");
     number = value.get<Integer>();

@@ -215,12 +215,37 @@ TEST(JsonArchive, UnregisteredClassesAreRefused)
         EXPECT_EQ(error.code, archive_exception::unregistered_class);
         EXPECT_THAT(error.what(), HasSubstr("derived class not registered or exported"));
     }
-    // By value it has no archive name to go by.
+}
+
+/// Known to the framework through the tests below, but under no archive name and as no object.
+struct Nameless : Host::Counted
+{
+    HOST_CLASS(Nameless)
+
+private:
+    template <class Archive> void serialize(Archive &) {}
+};
+
+TEST(JsonArchive, AClassWithoutAnArchiveNameIsRefused)
+{
+    Nameless const nameless;
     try {
-        saved(unknown);
+        saved(nameless);
         FAIL();
     } catch (archive_exception const & error) {
         EXPECT_EQ(error.code, archive_exception::unregistered_class);
+    }
+}
+
+TEST(JsonArchive, AnUnregisteredCastIsRefused)
+{
+    Nameless const nameless;
+    ISerializable const * const pointer = &nameless;
+    try {
+        saved(pointer);
+        FAIL();
+    } catch (archive_exception const & error) {
+        EXPECT_EQ(error.code, archive_exception::unregistered_cast);
     }
 }
 

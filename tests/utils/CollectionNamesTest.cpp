@@ -1,4 +1,4 @@
-#include <collection/Effects/CollectionNames.h>
+#include <utils/CollectionNames.h>
 
 #include <gtest/gtest.h>
 
