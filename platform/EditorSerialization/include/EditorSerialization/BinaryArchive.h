@@ -19,6 +19,7 @@
 #include <boost/archive/detail/common_oarchive.hpp>
 #include <boost/archive/detail/register_archive.hpp>
 #include <boost/serialization/nvp.hpp>
+#include <boost/serialization/string.hpp>
 
 #include <EditorSerialization/Bytes.h>
 #include <EditorSerialization/Classes.h>
