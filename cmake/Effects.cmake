@@ -19,6 +19,7 @@ set(EDITOREFFECTS_PUBLIC_HEADERS
   effects/Mask.h
   effects/Modulation.h
   effects/Shaders.h
+  utils/EffectUtils.h
   utils/LutUtils.h
 )
 
@@ -54,9 +55,11 @@ target_sources(EditorEffectsObjects PRIVATE effects/Identity.cpp)
 add_families(${hidden_families})
 target_sources(EditorEffectsObjects PRIVATE
   effects/PrivateIdentity.cpp
+  collection/Effects/CollectionNames.cpp
   collection/Effects/ContentProvider.cpp
   collection/Effects/ImageHolder.cpp
   collection/Effects/SettingsFactory.cpp
+  utils/EffectUtils.cpp
   utils/LutUtils.cpp
 )
 target_include_directories(EditorEffectsObjects PUBLIC "$<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>")

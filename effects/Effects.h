@@ -15,4 +15,5 @@
 #include <effects/Mask.h>
 #include <effects/Modulation.h>
 #include <effects/Shaders.h>
+#include <utils/EffectUtils.h>
 #include <utils/LutUtils.h>

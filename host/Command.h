@@ -36,10 +36,12 @@ inline void complain(std::exception const & error)
 /// Each adds itself to the program and runs when it is chosen.
 /// @{
 void addArchive(CLI::App & program);
+void addCatalogue(CLI::App & program);
 void addConvert(CLI::App & program);
 void addList(CLI::App & program);
 void addLut(CLI::App & program);
 void addShow(CLI::App & program);
+void addTool(CLI::App & program);
 /// @}
 
 /// Examples at the end of a subcommand's help.

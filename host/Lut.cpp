@@ -19,12 +19,6 @@ using nlohmann::json;
 
 namespace {
 
-/// The same with a replacement character for every byte that is no UTF-8: a document has no place for it.
-std::string asText(std::string const & bytes)
-{
-    return QString::fromStdString(bytes).toStdString();
-}
-
 json describe(std::string const & file)
 {
     std::string const bytes = readFile(file);

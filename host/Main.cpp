@@ -22,7 +22,9 @@ int main(int argc, char ** argv)
     Host::addShow(program);
     Host::addArchive(program);
     Host::addConvert(program);
+    Host::addCatalogue(program);
     Host::addLut(program);
+    Host::addTool(program);
 
     try {
         program.parse(argc, argv);

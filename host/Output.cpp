@@ -7,6 +7,8 @@
 
 #include "Documents.h"
 
+#include <QString>
+
 namespace Host {
 
 using nlohmann::json;
@@ -46,6 +48,11 @@ void collectFields(json const & document, std::vector<std::pair<std::string, jso
 }
 
 } // namespace
+
+std::string asText(std::string const & bytes)
+{
+    return QString::fromStdString(bytes).toStdString();
+}
 
 void printJson(std::ostream & stream, json const & document)
 {

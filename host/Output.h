@@ -10,6 +10,9 @@
 
 namespace Host {
 
+/// The same with a replacement character for every byte that is no UTF-8: a document has no place for it.
+std::string asText(std::string const & bytes);
+
 /// One JSON document, indented, with a line end.
 void printJson(std::ostream & stream, nlohmann::json const & document);
 

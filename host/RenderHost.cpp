@@ -1,6 +1,7 @@
 #include "RenderHost.h"
 
 #include <collection/Effects/ContentProvider.h>
+#include <EditorModel/CollectionProvider.h>
 #include <EditorSerialization/JsonArchive.h>
 #include <Settings/Settings.h>
 #include <Settings/Trace.h>
@@ -57,22 +58,46 @@ json toJson(Quoril::Proc::Value const & value)
         value.data());
 }
 
+EditorCollection::IItemStorage & noItems()
+{
+    static EditorCollection::NullItemStorage storage;
+    return storage;
+}
+
 } // namespace
 
 struct RenderHost::State
 {
+    /// The process's storage while it lives.
+    struct Installed
+    {
+        explicit Installed(EditorCollection::IItemStorage & storage)
+        {
+            EditorCollection::CollectionProvider::setItemStorage(&storage);
+        }
+        ~Installed() { EditorCollection::CollectionProvider::setItemStorage(nullptr); }
+    };
+
+    explicit State(EditorCollection::IItemStorage & storage)
+        : installed(storage)
+    {}
+
     // Pictures cannot be made without an application.
     int argumentCount = 1;
     char name[10] = "effectctl";
     char * arguments[2] = {name, nullptr};
     QGuiApplication application{argumentCount, arguments};
+    Installed installed;
     Effect::ContentProvider provider;
 };
 
 RenderHost::RenderHost()
-    : m_state(std::make_unique<State>())
-{
-}
+    : RenderHost(noItems())
+{}
+
+RenderHost::RenderHost(EditorCollection::IItemStorage & storage)
+    : m_state(std::make_unique<State>(storage))
+{}
 
 RenderHost::~RenderHost() = default;
 

@@ -6,6 +6,7 @@
 #include <optional>
 
 #include <EditorModel/EffectFactory.h>
+#include <EditorModel/ItemStorage.h>
 
 #include <nlohmann/json.hpp>
 
@@ -19,11 +20,13 @@ struct RenderParams
     std::optional<Effect::Type> as; ///< the operation of the factory; the effect's own type when absent
 };
 
-/// The library at work, without a catalogue. One at a time.
+/// The library at work. One at a time.
 class RenderHost
 {
 public:
-    RenderHost();
+    RenderHost(); ///< without a catalogue
+    /// With the catalogue's items from `storage`, which is kept alive by the caller.
+    explicit RenderHost(EditorCollection::IItemStorage & storage);
     ~RenderHost();
 
     /// The record of one effect: `class`, `stageCode`, `implementation`, `settings` with the setter calls in the order

@@ -10,16 +10,25 @@ namespace Effect {
 
 /// Starts the catalogue of stock effects and installs the settings factory. Keep it alive for as long as either is
 /// wanted; its destruction takes both back.
+///
+/// The folders are those of `Settings`, and the items come through `EditorCollection::CollectionProvider::itemStorage`:
+/// the host sets both up before. The constructor does not wait for any item. What it registered is reached through
+/// `EditorCollection::CollectionProvider::collection`; a collection asked for early is incomplete, and nothing tells
+/// when it no longer is, except the storage.
+///
+/// Deliveries use the provider without a lock. None may be running when it is destroyed: the storage is stopped before,
+/// or drops the loads of the collections when they go, as the one in EditorUtil does.
 class EFFECTS_API ContentProvider
 {
 public:
+    /// Throws `std::logic_error` when the host has set no item storage.
     ContentProvider();
     ~ContentProvider();
     ContentProvider(ContentProvider const &) = delete;
     ContentProvider & operator=(ContentProvider const &) = delete;
 
 private:
-    struct Impl;
+    class Impl;
     std::unique_ptr<Impl> m_impl;
 };
 

@@ -14,17 +14,23 @@
 
 #include <EditorModel/EffectFactory.h>
 #include <effects/Artistic.h>
+#include <effects/Blur.h>
 #include <effects/ColorFilters.h>
 #include <effects/ColorMixField.h>
+#include <effects/Distortion.h>
 #include <effects/Effects.h>
+#include <effects/Light.h>
 #include <effects/Mirroring.h>
 #include <effects/Retro.h>
 #include <effects/Voice.h>
 #include <Settings/SettingsArtistic.h>
 #include <Settings/SettingsAudio.h>
+#include <Settings/SettingsBlur.h>
 #include <Settings/SettingsColor.h>
 #include <Settings/SettingsColorFilter.h>
 #include <Settings/SettingsComposition.h>
+#include <Settings/SettingsDistortion.h>
+#include <Settings/SettingsLight.h>
 #include <Settings/SettingsMask.h>
 #include <Settings/SettingsShader.h>
 #include <Settings/SettingsRetro.h>
@@ -138,8 +144,19 @@ void fill(Proc::SettingsEffectLUT &, Lut const &, VideoContext const &);
 void fill(Proc::SettingsEffectISF &, ShaderISF const &, VideoContext const &);
 
 // Blur and sharpness.
+void fill(Proc::SettingsEffectBlurGaussian &, Blur const &, VideoParams const &);
+void fill(Proc::SettingsEffectBokehBlur &, BokehBlur const &, VideoContext const &);
+void fill(Proc::SettingsEffectMotionBlur &, MotionBlur const &, VideoParams const &);
+void fill(Proc::SettingsEffectTiltShiftQEM &, TiltShift const &, VideoParams const &);
+void fill(Proc::SettingsEffectSharpen &, Sharpen const &, VideoParams const &);
 
 // Distortion.
+void fill(Proc::SettingsEffectTwirl &, Twirl const &, VideoParams const &);
+void fill(Proc::SettingsEffectVertigo &, Vertigo const &, VideoParams const &);
+void fill(Proc::SettingsEffectFishEye &, FishEye const &, VideoParams const &);
+void fill(Proc::SettingsEffectLensDistortion &, LensDistortion const &, VideoParams const &);
+void fill(Proc::SettingsEffectCameraShake &, CameraShake const &, VideoParams const &);
+void fill(Proc::SettingsEffectChromaticAberration &, ChromaticAberration const &, VideoParams const &);
 
 // Artistic filters.
 void fill(Proc::SettingsEffectOilPaint &, OilPaint const &, VideoParams const &);
@@ -173,6 +190,10 @@ void fill(Proc::SettingsEffectColorMixField &, ColorMixField const &, VideoParam
 void fill(Proc::SettingsEffectInvert &, Invert const &, VideoParams const &);
 
 // Light and particles.
+void fill(Proc::SettingsEffectFlyingObjects &, FlyingObjects const &, VideoContext const &);
+void fill(Proc::SettingsEffectLensFlare &, LensFlare const &, VideoParams const &);
+void fill(Proc::SettingsEffectLightLeaks &, LightLeaks const &, VideoParams const &);
+void fill(Proc::SettingsEffectVignetteFilter &, VignetteFilter const &, VideoParams const &);
 
 // Equalizer.
 void fill(Proc::SettingsAudioEqualizer &, AudioEqualizer const &, AudioParams const &);

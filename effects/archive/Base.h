@@ -5,6 +5,7 @@
 #include <boost/preprocessor/control/expr_if.hpp>
 #include <boost/preprocessor/punctuation/comma_if.hpp>
 #include <boost/preprocessor/seq/for_each_i.hpp>
+#include <boost/preprocessor/stringize.hpp>
 #include <boost/preprocessor/variadic/elem.hpp>
 #include <boost/preprocessor/variadic/to_seq.hpp>
 
@@ -52,4 +53,5 @@ template <class Archive> void AudioEffect::serialize(Archive & archive)
     }
 
 // The first of the list is the class.
-#define EFFECT_FIELD(r, data, index, name) BOOST_PP_COMMA_IF(index) BOOST_PP_EXPR_IF(index, field(#name, name))
+#define EFFECT_FIELD(r, data, index, name)                                                                             \
+    BOOST_PP_COMMA_IF(index) BOOST_PP_EXPR_IF(index, field(BOOST_PP_STRINGIZE(name), name))

@@ -11,7 +11,7 @@ import subprocess
 import sys
 import tempfile
 
-SHADERS = pathlib.Path(__file__).resolve().parent.parent / "Shaders"
+SHADERS = pathlib.Path(__file__).resolve().parent.parent / "VideoEffects/shaders"
 DIALECTS = {"GLSL 1.20": "#version 120\n", "GLSL ES 1.00": "#version 100\nprecision highp float;\n"}
 UNIFORMS = {"image": "sampler2D", "float": "float", "color": "vec4", "bool": "bool", "long": "int",
             "point2D": "vec2", "event": "bool"}

@@ -63,11 +63,12 @@ TYPED_TEST(AllClassesTest, IsKnownByOneNameEverywhere)
 
 TYPED_TEST(AllClassesTest, VariationsDifferInEveryField)
 {
-    json const plain = documentOf(*this->plain).flatten();
-    json const first = documentOf(*this->first).flatten();
-    for (auto const & [path, value] : plain.items())
-        if (path.find("$meta") == path.npos)
-            EXPECT_NE(first.value(path, json()), value) << path;
+    json const defaults = documentOf(*this->plain).flatten();
+    json const others = documentOf(*this->first).flatten();
+    for (auto const & [path, value] : defaults.items())
+        if (path.find("$meta") == path.npos) {
+            EXPECT_NE(others.value(path, json()), value) << path;
+        }
 }
 
 TYPED_TEST(AllClassesTest, ValueSemantics)
@@ -123,13 +124,13 @@ TYPED_TEST(AllClassesTest, JsonOfAnEmptyObjectChangesNothing)
 TYPED_TEST(AllClassesTest, JsonLoadsEachKeyByItself)
 {
     // A document with one of the class's own keys sets that field and leaves all others.
-    json const plain = documentOf(*this->plain);
-    json const varied = documentOf(*this->first);
-    for (auto const & [key, value] : varied.items()) {
+    json const defaults = documentOf(*this->plain);
+    json const others = documentOf(*this->first);
+    for (auto const & [key, value] : others.items()) {
         if (key == "$meta" || key.rfind("Effect::", 0) == 0)
             continue;
-        json const document{{"$meta", plain["$meta"]}, {key, value}};
-        json expected = plain;
+        json const document{{"$meta", defaults["$meta"]}, {key, value}};
+        json expected = defaults;
         expected[key] = value;
         EXPECT_EQ(documentOf(*objectOf(document)), expected) << key;
     }

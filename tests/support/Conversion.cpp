@@ -3,6 +3,8 @@
 #include <Settings/Settings.h>
 #include <Settings/Trace.h>
 
+#include "LogCapture.h"
+
 namespace Testing {
 
 namespace {
@@ -10,14 +12,14 @@ namespace {
 template <class Convert> Converted traced(Convert const & convert)
 {
     Converted converted;
-    LogCapture log;
+    LogCapture const log;
     Quoril::Proc::Trace const trace;
     Effect::Factory::EffectSettings const record = convert();
     converted.stageCode = record.stageCode;
     converted.implementation = record.implementation;
     for (auto const & settings : record.settings)
         converted.settings.push_back(trace.describe(*settings).toString());
-    converted.log = log.lines;
+    converted.log = log.errors();
     return converted;
 }
 

@@ -9,28 +9,9 @@
 #include <collection/Effects/SettingsFactory.h>
 #include <EditorModel/EffectFactory.h>
 
-#include <glog/logging.h>
 #include <gtest/gtest.h>
 
 namespace Testing {
-
-/// Collects what is logged while it lives.
-class LogCapture final : private google::LogSink
-{
-public:
-    LogCapture() { google::AddLogSink(this); }
-    ~LogCapture() override { google::RemoveLogSink(this); }
-
-    /// Severity and text of each message, such as "ERROR: text".
-    std::vector<std::string> lines;
-
-private:
-    void send(google::LogSeverity severity, char const *, char const *, int, tm const *, char const * message,
-        std::size_t length) override
-    {
-        lines.push_back(std::string(google::GetLogSeverityName(severity)) + ": " + std::string(message, length));
-    }
-};
 
 /// What a conversion gave. A settings object reads as its description does, for instance
 /// `{"class": "SettingsEffectBlurGaussian", "calls": [["SetScale", 1]], "fields": {}}`.
@@ -39,7 +20,7 @@ struct Converted
     int stageCode = 0;
     std::string implementation;
     std::vector<std::string> settings;
-    std::vector<std::string> log;
+    std::vector<std::string> log; ///< at severity ERROR
 };
 
 /// Converts through the installed factory.

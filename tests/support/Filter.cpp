@@ -57,9 +57,10 @@ void expectForm(FilterForm const & form)
         EXPECT_NE(value, otherFields.value(key, json())) << key;
 }
 
-void expectConversion(Effect::Object const & effect, std::string const & settings)
+void expectConversion(
+    Effect::Object const & effect, std::string const & settings, Effect::Factory::VideoParams const & params)
 {
-    auto const converted = convert(effect);
+    auto const converted = convert(effect, params);
     EXPECT_EQ(converted.stageCode, 18);
     EXPECT_EQ(converted.implementation, "DEFAULT");
     EXPECT_THAT(converted.settings, testing::ElementsAre(settings));

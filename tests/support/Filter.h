@@ -5,6 +5,7 @@
 #include <memory>
 #include <string>
 
+#include <EditorModel/EffectFactory.h>
 #include <EditorModel/EffectObject.h>
 
 namespace Testing {
@@ -33,6 +34,7 @@ template <class... Values> std::string packed(Values... values)
 }
 
 /// Expects that an effect converts to one settings object, as `settings` describes it, for the engine's video stage.
-void expectConversion(Effect::Object const & effect, std::string const & settings);
+void expectConversion(
+    Effect::Object const & effect, std::string const & settings, Effect::Factory::VideoParams const & params = {});
 
 } // namespace Testing

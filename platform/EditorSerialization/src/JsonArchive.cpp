@@ -223,6 +223,7 @@ void oarchive::pushElement()
 }
 
 iarchive::iarchive(json const & document)
+    : m_document(&document)
 {
     enter({&document, nullptr, 0, false});
 }
@@ -313,7 +314,7 @@ void iarchive::enter(Level level)
 void iarchive::follow(Level & level, std::int64_t id)
 {
     if (!m_referredKnown) {
-        m_referred = numberedObjects(*m_stack.front().value);
+        m_referred = numberedObjects(*m_document);
         m_referredKnown = true;
     }
     auto const found = m_referred.find(id);

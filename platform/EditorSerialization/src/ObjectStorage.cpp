@@ -1,6 +1,7 @@
 #include <EditorSerialization/ObjectStorage.h>
 
 #include <algorithm>
+#include <utility>
 #include <vector>
 
 #include <EditorSerialization/ObjectTracker.h>
@@ -10,6 +11,7 @@ namespace Serialize {
 struct ObjectStorage::State
 {
     ObjectTracker tracker;
+    std::vector<std::function<void()>> released;
 };
 
 ObjectStorage::ObjectStorage()
@@ -31,7 +33,7 @@ ObjectStorage & ObjectStorage::operator=(ObjectStorage && other) noexcept
     return *this;
 }
 
-ISerializable * ObjectStorage::add(std::unique_ptr<ISerializable> object)
+ISerializable * ObjectStorage::add(std::unique_ptr<ISerializable> object, std::function<void()> released)
 {
     ISerializable const * const root = object.get();
     if (!root)
@@ -45,14 +47,20 @@ ISerializable * ObjectStorage::add(std::unique_ptr<ISerializable> object)
     found << root;
     for (auto const & [address, entry] : found.entries())
         tracker.forceForeign(address);
+    if (released)
+        m_state->released.push_back(std::move(released));
     tracker.own(root);
     return object.release();
 }
 
 void ObjectStorage::releaseAll()
 {
-    if (m_state)
-        m_state->tracker.clear();
+    if (!m_state)
+        return;
+    m_state->tracker.clear();
+    // Taken out first: each is told once, whatever it does.
+    for (auto const & tell : std::exchange(m_state->released, {}))
+        tell();
 }
 
 std::size_t ObjectStorage::size() const

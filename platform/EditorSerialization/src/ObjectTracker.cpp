@@ -4,6 +4,7 @@
 #include <utility>
 
 #include <boost/archive/impl/archive_serializer_map.ipp>
+#include <boost/serialization/state_saver.hpp>
 
 // The part of the framework's templates that lives in one module per archive type.
 namespace boost::archive::detail {
@@ -55,12 +56,15 @@ void ObjectTracker::savePointed(void const * object, Detail::OutputClass const &
     if (m_entries[object].saved)
         return;
     DepthGuard const guard(m_depth);
-    type.serializer->save_object_data(*this, object);
-    m_entries[object].saved = true;
+    walk(object, type);
 }
 
 void ObjectTracker::save_object(void const * object, boost::archive::detail::basic_oserializer const & serializer)
 {
+    Detail::OutputClass const & type = m_classes.of(serializer);
+    // A base stands where its object does and is no object of its own.
+    if (object == m_walked)
+        return type.serializer->save_object_data(*this, object);
     {
         Entry & entry = m_entries[object];
         if (entry.kind == Kind::Unknown)
@@ -70,7 +74,14 @@ void ObjectTracker::save_object(void const * object, boost::archive::detail::bas
                     ? "Object adressed by reference was already serialized by reference"
                     : "Object adressed by reference was already serialized by pointer");
     }
-    m_classes.of(serializer).serializer->save_object_data(*this, object);
+    walk(object, type);
+}
+
+void ObjectTracker::walk(void const * object, Detail::OutputClass const & type)
+{
+    boost::serialization::state_saver<void const *> const outer(m_walked);
+    m_walked = object;
+    type.serializer->save_object_data(*this, object);
     m_entries[object].saved = true;
 }
 

@@ -86,7 +86,7 @@ TEST_F(CleanUpConversion, DescriptorsAreRefused)
             EXPECT_EQ(converted.stageCode, 0);
             EXPECT_EQ(converted.implementation, "");
             EXPECT_THAT(converted.log,
-                ElementsAre(std::string("ERROR: Settings requested for descriptor. Effect ID is ") + row.id));
+                ElementsAre(std::string("Settings requested for descriptor. Effect ID is ") + row.id));
         }
     }
 }

@@ -176,7 +176,7 @@ TEST_F(ColorCorrectionConversion, SlidersAtRestGiveTheEmptyRecordAndAMessage)
     EXPECT_EQ(converted.implementation, "");
     EXPECT_THAT(converted.settings, IsEmpty());
     EXPECT_THAT(converted.log,
-        ElementsAre("ERROR: Couldn't provide settings for effect. Effect ID is 7cbc055b-98bf-4fcc-be7d-f431a05e608a"));
+        ElementsAre("Couldn't provide settings for effect. Effect ID is 7cbc055b-98bf-4fcc-be7d-f431a05e608a"));
 }
 
 TEST(ManualEnhanceConverter, SlidersAtRestGiveARecordOfNothing)

@@ -33,7 +33,7 @@ struct EFFECTS_API ColorMixField : VideoEffect
     double threshold = 0.25;
     double contrast = 0.5;
     std::uint32_t color = 0x80FF0102;
-    std::string note; // what the library knows nothing of
+    QString note; // what the library knows nothing of
 };
 
 EFFECT_VIDEO_FIELDS(ColorMixField, threshold, contrast, color, note)
@@ -86,7 +86,7 @@ TEST_F(ColorMixFieldOfAHost, IsConvertedAfterItsWayThroughAnArchive)
 {
     ColorMixField effect;
     effect.threshold = 0.75;
-    effect.note = "a host's own";
+    effect.note = QStringLiteral("a host's own");
     auto const read = Archive::fromJson(Archive::toJson(effect));
     EXPECT_EQ(dynamic_cast<ColorMixField const &>(*read).note, "a host's own");
     EXPECT_EQ(converted(*Archive::fromBinary(Archive::toBinary(*read))),

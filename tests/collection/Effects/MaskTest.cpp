@@ -133,7 +133,7 @@ TEST_F(MaskConversion, NoFramesGiveARecordOfNothing)
     EXPECT_EQ(converted.stageCode, 0);
     EXPECT_THAT(converted.settings, IsEmpty());
     EXPECT_THAT(converted.log,
-        ElementsAre("ERROR: Couldn't provide settings for effect. Effect ID is b1c2b46d-c898-4874-9619-a1c58992162c"));
+        ElementsAre("Couldn't provide settings for effect. Effect ID is b1c2b46d-c898-4874-9619-a1c58992162c"));
 }
 
 TEST_F(MaskConversion, AnotherClassIsABadCast)

@@ -34,7 +34,7 @@ TEST_F(SettingsFactoryTest, DescriptorsAreRefused)
 {
     EffectDescriptor const effect(Id::Normalize, Id::Normalize, Type::Audio);
     char const * const message =
-        "ERROR: Settings requested for descriptor. Effect ID is 6c7a85ac-2a34-44a0-bd07-504f95370354";
+        "Settings requested for descriptor. Effect ID is 6c7a85ac-2a34-44a0-bd07-504f95370354";
     EXPECT_THAT(convert(effect, Factory::AudioParams()).log, ElementsAre(message));
     EXPECT_THAT(convert(effect, Factory::VideoParams()).log, ElementsAre(message));
     EXPECT_THAT(convert(effect).settings, IsEmpty());
@@ -44,7 +44,7 @@ TEST_F(SettingsFactoryTest, EachKindHasItsOwnTable)
 {
     AutoContrast const effect;
     auto const converted = convert(effect, Factory::AudioParams());
-    EXPECT_THAT(converted.log, ElementsAre("ERROR: Couldn't provide settings for unknown effect. Effect ID is "
+    EXPECT_THAT(converted.log, ElementsAre("Couldn't provide settings for unknown effect. Effect ID is "
                                            "fe49dfef-2cc8-4a94-976e-6dce9a0d3e55"));
     EXPECT_THAT(converted.settings, IsEmpty());
     EXPECT_EQ(converted.stageCode, 0);
@@ -55,7 +55,7 @@ TEST_F(SettingsFactoryTest, UnknownIdentifiersAreReported)
 {
     VideoEffect const effect(QString::fromUtf8("Wärme"), QString());
     EXPECT_THAT(
-        convert(effect).log, ElementsAre("ERROR: Couldn't provide settings for unknown effect. Effect ID is Wärme"));
+        convert(effect).log, ElementsAre("Couldn't provide settings for unknown effect. Effect ID is Wärme"));
 }
 
 TEST_F(SettingsFactoryTest, AWrongClassBehindAnIdentifierIsABadCast)

@@ -4,6 +4,7 @@
 
 #include <collection/Effects/Conversions.h>
 #include <ParserLUT/LUTTable.h>
+#include <Settings/Trace.h>
 #include <support/Conversion.h>
 #include <support/Images.h>
 #include <support/Resources.h>

@@ -1,4 +1,4 @@
-// Prints the JSON archive of a default crop, having read it back.
+// Prints the JSON archive of a crop, having read it back.
 #include <iostream>
 #include <memory>
 #include <string>
@@ -9,11 +9,11 @@
 
 int main()
 {
-    Effect::Crop const crop;
+    Effect::Crop crop;
+    crop.intensity = 0.5;
     std::string const archive = Effect::Archive::toJson(crop);
     std::unique_ptr<Effect::Object> const copy = Effect::Archive::fromJson(archive);
-    auto const * const read = dynamic_cast<Effect::Crop const *>(copy.get());
-    if (!read || !(*read == crop)) {
+    if (!dynamic_cast<Effect::Crop const *>(copy.get()) || copy->intensity != 0.5) {
         std::cerr << "the crop did not come back from " << archive << '\n';
         return 1;
     }

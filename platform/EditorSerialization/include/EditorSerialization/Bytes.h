@@ -54,7 +54,13 @@ public:
         if (got != static_cast<std::streamsize>(count))
             failShort(count - static_cast<std::size_t>(got));
     }
-    template <class T> void read(T & value) { read(&value, sizeof value); }
+    /// A value that is not there whole changes nothing.
+    template <class T> void read(T & value)
+    {
+        T whole(value);
+        read(&whole, sizeof whole);
+        value = whole;
+    }
     void read(bool & value); ///< one byte, 0 or 1
     void read(std::string & text);
     void readShort(std::string & text, std::size_t longest); ///< refuses a text of more than `longest` bytes

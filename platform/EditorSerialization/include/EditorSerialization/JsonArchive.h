@@ -282,6 +282,7 @@ private:
         boost::archive::archive_exception::exception_code code =
             boost::archive::archive_exception::other_exception) const;
 
+    nlohmann::json const * m_document;
     std::vector<Level> m_stack; // the top is the head
     Serialize::Detail::InputClasses<iarchive> m_classes;
     std::unordered_map<std::int64_t, nlohmann::json const *> m_referred; // filled at the first reference

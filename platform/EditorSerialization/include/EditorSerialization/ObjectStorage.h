@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <memory>
 
 #include <EditorSerialization/ISerializable.h>
@@ -20,7 +21,8 @@ public:
     ObjectStorage & operator=(ObjectStorage &&) noexcept;
 
     /// Takes the object over and returns it. Its class must be registered.
-    ISerializable * add(std::unique_ptr<ISerializable> object);
+    /// @param released  called when the storage gives the object up, and not when it deletes it
+    ISerializable * add(std::unique_ptr<ISerializable> object, std::function<void()> released = {});
 
     /// Gives up the ownership of every object, so that they outlive the storage.
     void releaseAll();

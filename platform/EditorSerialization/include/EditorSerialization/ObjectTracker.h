@@ -130,11 +130,13 @@ private:
         savePointed(address, m_classes.ofObject(*object));
     }
     void savePointed(void const * object, Detail::OutputClass const & type);
+    void walk(void const * object, Detail::OutputClass const & type);
     void checkCount(void const * count);
 
     Entries m_entries;
     bool m_foreign = false;
     Detail::OutputClasses<ObjectTracker> m_classes;
+    void const * m_walked = nullptr; // the object whose content is being walked
     int m_depth = 0;
 };
 

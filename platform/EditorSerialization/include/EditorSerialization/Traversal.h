@@ -13,6 +13,7 @@
 
 #include <boost/serialization/base_object.hpp>
 #include <boost/serialization/nvp.hpp>
+#include <boost/serialization/string.hpp>
 
 #include <EditorSerialization/Error.h>
 #include <EditorSerialization/Interfaces.h>

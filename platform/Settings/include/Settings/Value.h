@@ -30,7 +30,7 @@ public:
     Value(List list) noexcept;
     Value(Object object) noexcept;
 
-    /// Any integer type. What is beyond a signed 64-bit integer becomes the nearest double.
+    /// A boolean or any integer. What is beyond a signed 64-bit integer becomes the nearest double.
     template <class Integer, std::enable_if_t<std::is_integral_v<Integer>, int> = 0>
     Value(Integer number) noexcept
         : Value(Tag(), wide(number))
@@ -50,7 +50,7 @@ public:
     /// An object's value under `key`; null when there is none, and for what is no object.
     Value const * find(std::string const & key) const;
 
-    /// For messages and for people, in JSON's manner, with numbers in the shortest form that tells them apart.
+    /// For messages and for people, in the manner of JSON, with numbers in the shortest form that tells them apart.
     std::string toString() const;
 
     friend bool operator==(Value const & a, Value const & b) { return a.m_data == b.m_data; }

@@ -1,0 +1,91 @@
+/// @file
+/// The catalogue as its users see it: items, and the collections that hold them.
+#pragma once
+
+#include <memory>
+#include <set>
+#include <vector>
+
+#include <EditorModel/EffectObject.h>
+#include <EditorModel/Export.h>
+
+#include <QString>
+
+namespace EditorCollection {
+
+/// One thing that the catalogue offers: an effect with its settings, and where it is filed.
+///
+/// An item is filled by whoever reads or makes it, and no longer changed once a collection holds it. From then on any
+/// thread may ask it.
+class EDITORMODEL_EXPORT IItem
+{
+public:
+    virtual ~IItem();
+
+    /// The names of the categories that the item is filed under, in ascending order.
+    virtual std::set<QString> const & categories() const = 0;
+    virtual void addCategory(QString const & name) = 0;
+    /// What the item carries. It lives as long as the item.
+    virtual Effect::Object const & payload() const = 0;
+    virtual void setUserFlagA(bool set) = 0;
+    virtual void setUserFlagB(bool set) = 0;
+
+    /// Whether the item is the user's own, not a stock one. Clear at first.
+    virtual bool userFlagA() const = 0;
+    /// Whether the user may rename and delete the item. Clear at first.
+    virtual bool userFlagB() const = 0;
+
+protected:
+    IItem() = default;
+    IItem(IItem const &) = default;
+    IItem & operator=(IItem const &) = default;
+};
+
+/// How a collection shows one of its categories.
+struct CategoryInfo
+{
+    enum class Kind
+    {
+        Thematic, ///< items of one theme, as the stock has them
+        User      ///< the user's own items
+    };
+
+    Kind kind = Kind::Thematic;
+    int position = 0; ///< among the categories of the collection, from 0
+};
+
+/// A category of a collection.
+struct Category
+{
+    QString name;
+    CategoryInfo info;
+};
+
+/// The items of one kind, such as all stock LUTs, and the categories that they are filed under. Any thread may call
+/// any of its operations at any time.
+class EDITORMODEL_EXPORT ICollection
+{
+public:
+    virtual ~ICollection();
+
+    /// Takes the item over. One that the collection does not want, such as null, is left with the caller.
+    virtual void addItem(std::unique_ptr<IItem> && item) = 0;
+    /// The first item added whose payload bears that tag; null when there is none. It lives as long as the collection.
+    virtual IItem const * itemByTag(QString const & tag) const = 0;
+    /// Adds a category. One that is there already stays as it is.
+    virtual void addCategory(QString const & name, CategoryInfo const & info) = 0;
+    virtual bool hasCategory(QString const & name) const = 0;
+
+    virtual QString const & name() const = 0;
+    /// The items added so far, in the order in which they were added. They live as long as the collection.
+    virtual std::vector<IItem const *> items() const = 0;
+    /// The categories added so far, in the order in which they were added.
+    virtual std::vector<Category> categories() const = 0;
+
+protected:
+    ICollection() = default;
+    ICollection(ICollection const &) = default;
+    ICollection & operator=(ICollection const &) = default;
+};
+
+} // namespace EditorCollection

@@ -1,0 +1,184 @@
+#include <EditorUtil/ItemFile.h>
+
+#include <cerrno>
+#include <stdexcept>
+#include <system_error>
+#include <utility>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <EditorSerialization/JsonArchive.h>
+#include <EditorUtil/Item.h>
+#include <FileSystem/FileSystem.h>
+
+#include <nlohmann/json.hpp>
+
+#include <QDir>
+#include <QSaveFile>
+
+namespace EditorCollection {
+
+using nlohmann::json;
+
+namespace {
+
+constexpr char const * categoriesKey = "categories";
+constexpr char const * effectKey = "effect";
+
+/// Closes a file at the end of the scope.
+class Descriptor
+{
+public:
+    explicit Descriptor(int descriptor)
+        : m_descriptor(descriptor)
+    {}
+    ~Descriptor()
+    {
+        if (m_descriptor >= 0)
+            ::close(m_descriptor);
+    }
+    Descriptor(Descriptor const &) = delete;
+    Descriptor & operator=(Descriptor const &) = delete;
+
+    operator int() const { return m_descriptor; }
+
+private:
+    int m_descriptor;
+};
+
+[[noreturn]] void failSystem()
+{
+    throw std::runtime_error(std::generic_category().message(errno));
+}
+
+// Not through Qt: it asks for the kind of a file by its path before it opens it, which a pipe put there in between
+// would make it wait for, and it cannot open every name in every locale.
+std::string readFile(std::string const & path)
+{
+    // Without O_NONBLOCK, opening a pipe waits for its writer.
+    Descriptor const file(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+    struct stat status;
+    if (file < 0 || ::fstat(file, &status) != 0)
+        failSystem();
+    if (!S_ISREG(status.st_mode))
+        throw std::runtime_error("is not a regular file");
+    if (status.st_size > maxItemFileSize)
+        throw std::runtime_error("is larger than " + std::to_string(maxItemFileSize >> 20) + " MiB");
+    // The file may shrink while it is read; what it grows by is left out, and missed by the parser.
+    std::string text(static_cast<std::size_t>(status.st_size), '\0');
+    std::size_t length = 0;
+    while (length < text.size()) {
+        ssize_t const count = ::read(file, text.data() + length, text.size() - length);
+        if (count == 0)
+            break;
+        if (count > 0)
+            length += static_cast<std::size_t>(count);
+        else if (errno != EINTR)
+            failSystem();
+    }
+    text.resize(length);
+    return text;
+}
+
+json documentOf(Effect::Object const & effect)
+{
+    json document;
+    Serialize::Json::oarchive archive(document);
+    Effect::Object const * const pointer = &effect;
+    archive << pointer;
+    return document;
+}
+
+/// Null for the document null.
+std::unique_ptr<Effect::Object> effectOf(json const & document)
+{
+    std::unique_ptr<Effect::Object> effect;
+    Serialize::Json::iarchive archive(document);
+    archive >> effect;
+    return effect;
+}
+
+std::set<QString> categoriesOf(json const & document)
+{
+    std::set<QString> categories;
+    auto const found = document.find(categoriesKey);
+    if (found == document.end())
+        return categories;
+    if (!found->is_array())
+        throw std::runtime_error("\"categories\" is no array");
+    for (json const & name : *found) {
+        if (!name.is_string())
+            throw std::runtime_error("\"categories\" holds something that is no text");
+        categories.insert(QString::fromStdString(name.get_ref<std::string const &>()));
+    }
+    return categories;
+}
+
+} // namespace
+
+serialize_ptr<IItem> readItem(std::string const & folder, std::string const & fileName)
+{
+    return parseItem(readFile(folder + '/' + fileName), folder);
+}
+
+serialize_ptr<IItem> parseItem(std::string_view text, std::string const & folder)
+{
+    if (text.empty())
+        throw std::runtime_error("is empty");
+    json const document = Serialize::Json::parse(text);
+    if (!document.is_object())
+        throw std::runtime_error("is no JSON object");
+    auto const archived = document.find(effectKey);
+    if (archived == document.end())
+        throw std::runtime_error("has no key \"effect\"");
+
+    std::unique_ptr<Effect::Object> effect;
+    try {
+        effect = effectOf(*archived);
+    } catch (std::exception const & error) {
+        throw std::runtime_error(std::string("in \"effect\": ") + error.what());
+    }
+    if (!effect)
+        throw std::runtime_error("\"effect\" is null");
+    QString & resource = effect->resourcePath;
+    if (!resource.isEmpty() && QDir::isRelativePath(resource))
+        resource = QDir::cleanPath(QString::fromStdString(folder) + QLatin1Char('/') + resource);
+    return makeItem(std::move(effect), categoriesOf(document));
+}
+
+void storeItem(
+    QString const & folder, QString const & name, Effect::Object const & effect, std::set<QString> const & categories)
+{
+    QString const place = FS::absolutePath(folder);
+    QString const suffix = QString::fromLatin1(itemFileSuffix.data(), static_cast<int>(itemFileSuffix.size()));
+    QString const path = FS::joinPath({place, name}, suffix);
+    auto const fail = [&path](QString const & reason) {
+        throw std::runtime_error((path + QLatin1String(": ") + reason).toStdString());
+    };
+    if (name.isEmpty() || name.contains(QLatin1Char('/')) || name.contains(QChar::Null))
+        fail(QStringLiteral("is no name of a file"));
+
+    json document;
+    json & archived = document[effectKey] = documentOf(effect);
+    QString const start = place + QLatin1Char('/');
+    if (effect.resourcePath.startsWith(start)) {
+        // Effects cannot be copied through their base: the copy comes out of the document.
+        auto const moved = effectOf(archived);
+        moved->resourcePath.remove(0, start.size());
+        archived = documentOf(*moved);
+    }
+    json & names = document[categoriesKey] = json::array();
+    for (QString const & category : categories)
+        names.push_back(category.toStdString());
+    QByteArray const text = QByteArray::fromStdString(document.dump(2) + '\n');
+
+    if (!QDir().mkpath(place))
+        fail(QStringLiteral("the folder cannot be made"));
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size() || !file.commit())
+        fail(file.errorString());
+}
+
+} // namespace EditorCollection

@@ -1,0 +1,244 @@
+#include <algorithm>
+
+#include <EditorUtil/ItemFile.h>
+#include <effects/Effects.h>
+
+#include "Effectctl.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <gmock/gmock.h>
+#include <nlohmann/json.hpp>
+
+namespace {
+
+using namespace Effect;
+using EditorCollection::storeItem;
+using nlohmann::json;
+using Testing::effectctl;
+using testing::HasSubstr;
+using testing::StartsWith;
+
+/// A stock folder and a user's, with an item of every kind in them.
+class CatalogueCommand : public testing::Test
+{
+protected:
+    CatalogueCommand()
+    {
+        QDir().mkpath(stock());
+        QDir().mkpath(user());
+    }
+
+    QString stock() const { return m_folder.path() + "/stock"; }
+    QString user() const { return m_folder.path() + "/user"; }
+    QStringList arguments(QStringList const & more = {}) const
+    {
+        return QStringList{"catalogue", "--stock", stock(), "--user", user()} + more;
+    }
+
+    void fill() const
+    {
+        storeItem(stock() + "/VideoEffects", "contrast", AutoContrast(), {"category_adjust"});
+        storeItem(stock() + "/VideoEffects", "background", BackgroundRemove(), {"category_b", "category_a"});
+        AudioEnhance enhance;
+        enhance.addEffect(std::make_unique<AudioEqualizer>(AudioEqualizer::makePreset(AudioEqualizer::Preset{2})))
+            ->addEffect(nullptr)
+            ->addEffect(std::make_unique<AudioCompressor>());
+        storeItem(stock() + "/AudioEnhance", "voice", enhance);
+        storeItem(user() + "/Effects/ManualEnhance", "mine", ManualEnhance());
+    }
+
+    void write(QString const & path, QByteArray const & bytes) const
+    {
+        QDir().mkpath(path.section('/', 0, -2));
+        QFile file(path);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        ASSERT_EQ(file.write(bytes), bytes.size());
+    }
+
+    QString path(QString const & name) const { return m_folder.path() + '/' + name; }
+
+private:
+    QTemporaryDir m_folder;
+};
+
+json itemsOf(json const & document, char const * name)
+{
+    for (json const & collection : document["collections"])
+        if (collection["name"] == name)
+            return collection["items"];
+    return {};
+}
+
+TEST_F(CatalogueCommand, PrintsADocument)
+{
+    fill();
+    auto const run = effectctl(arguments({"--json"}));
+    EXPECT_EQ(run.status, 0) << run.errors;
+    EXPECT_EQ(run.errors, "");
+    json const document = json::parse(run.output);
+    std::vector<std::string> names;
+    for (json const & collection : document["collections"])
+        names.push_back(collection["name"]);
+    EXPECT_THAT(names, testing::ElementsAre("Effects", "OverlayEffects", "EffectsAudio", "AudioEnhance", "ColorFilters",
+                           "Luts", "Shader effects", "PipEffects", "Masks"));
+    json const effects = itemsOf(document, "Effects");
+    ASSERT_EQ(effects.size(), 2U);
+    EXPECT_EQ(
+        effects[0], (json{{"class", "Effect::BackgroundRemove"}, {"tag", Tags::tagBackgroundRemove.toStdString()},
+                        {"id", Id::BackgroundRemove.toStdString()}, {"groupId", Id::BackgroundRemove.toStdString()},
+                        {"categories", {"category_a", "category_b"}}, {"user", false}}));
+    json const colorFilters = itemsOf(document, "ColorFilters");
+    ASSERT_EQ(colorFilters.size(), 1U);
+    EXPECT_EQ(colorFilters[0]["user"], true);
+    EXPECT_EQ(document["summary"], (json{{"items", 4}, {"unreadable", 0}}));
+}
+
+TEST_F(CatalogueCommand, PrintsTables)
+{
+    fill();
+    auto const run = effectctl(arguments());
+    EXPECT_EQ(run.status, 0) << run.errors;
+    EXPECT_THAT(run.output, StartsWith("Effects: 2 items\n  CLASS"));
+    EXPECT_THAT(run.output, HasSubstr("\nShader effects: 0 items\n"));
+    EXPECT_THAT(run.output, HasSubstr("\nAudioEnhance: 1 item\n"));
+    EXPECT_THAT(run.output, HasSubstr("category_a category_b"));
+    EXPECT_THAT(run.output, testing::EndsWith("\n4 items; 0 files could not be read\n"));
+}
+
+TEST_F(CatalogueCommand, ConvertsEveryItem)
+{
+    fill();
+    auto const run = effectctl(arguments({"--json", "--convert"}));
+    EXPECT_EQ(run.status, 0) << run.errors;
+    json const document = json::parse(run.output);
+    EXPECT_EQ(itemsOf(document, "Effects")[0]["result"], "descriptor");
+    EXPECT_EQ(itemsOf(document, "Effects")[1]["result"], "converted");
+    // Each of the effects in a holder on its own; the empty slot does not count.
+    EXPECT_EQ(itemsOf(document, "AudioEnhance")[0]["result"], "holder");
+    EXPECT_EQ(itemsOf(document, "AudioEnhance")[0]["effects"], 2);
+    EXPECT_EQ(document["summary"], (json{{"items", 4}, {"unreadable", 0}, {"converted", 2}, {"descriptors", 1},
+                                       {"holders", 1}, {"held", 2}, {"notConverted", 0}}));
+
+    EXPECT_THAT(effectctl(arguments({"--convert"})).output,
+        testing::EndsWith("\n4 items: 2 converted, 1 descriptors, 1 holders with 2 effects converted each on its own, "
+                          "0 not converted; 0 files could not be read\n"));
+}
+
+TEST_F(CatalogueCommand, TellsWhatDidNotConvert)
+{
+    fill();
+    storeItem(stock() + "/VideoEffects", "stranger", VideoEffect("no-such-id", "x"));
+    EffectsHolder holder;
+    holder.addEffect(std::make_unique<AudioNormalize>());
+    storeItem(stock() + "/VideoEffects", "holder", holder);
+    auto const run = effectctl(arguments({"--json", "--convert"}));
+    EXPECT_EQ(run.status, 1);
+    json const document = json::parse(run.output);
+    EXPECT_EQ(document["summary"]["notConverted"], 2);
+    EXPECT_EQ(document["summary"]["converted"], 2);
+    EXPECT_EQ(run.errors,
+        "effectctl: Effects: Effect::EffectsHolder \"\" did not convert: Settings requested for descriptor. Effect ID "
+        "is " +
+            Id::Normalize.toStdString() +
+            "\neffectctl: Effects: Effect::VideoEffect \"\" did not convert: Couldn't provide settings for unknown "
+            "effect. Effect ID is no-such-id\n");
+    // Not asked for, it is no failure.
+    EXPECT_EQ(effectctl(arguments()).status, 0);
+}
+
+TEST_F(CatalogueCommand, AFileThatCannotBeReadCostsNoOtherItem)
+{
+    fill();
+    write(stock() + "/VideoEffects/broken.effect.json", "{");
+    write(stock() + "/VideoEffects/empty.effect.json", "");
+    QDir().mkpath(stock() + "/Masks/folder.effect.json");
+    auto const run = effectctl(arguments({"--json", "--convert"}));
+    EXPECT_EQ(run.status, 1);
+    json const summary = json::parse(run.output)["summary"];
+    EXPECT_EQ(summary["items"], 4);
+    EXPECT_EQ(summary["unreadable"], 3);
+    EXPECT_EQ(std::count(run.errors.begin(), run.errors.end(), '\n'), 3) << run.errors;
+    for (char const * const file :
+        {"VideoEffects/broken.effect.json: ", "VideoEffects/empty.effect.json: ", "Masks/folder.effect.json: "})
+        EXPECT_THAT(run.errors, HasSubstr((stock() + '/' + file).toStdString()));
+}
+
+TEST_F(CatalogueCommand, TakesAnEmptyStock)
+{
+    auto const run = effectctl(arguments({"--convert"}));
+    EXPECT_EQ(run.status, 0) << run.errors;
+    EXPECT_THAT(run.output, HasSubstr("\n0 items: "));
+}
+
+TEST_F(CatalogueCommand, NeedsItsFolders)
+{
+    auto const run = effectctl({"catalogue", "--stock", path("nowhere")});
+    EXPECT_EQ(run.status, 1);
+    EXPECT_EQ(run.errors, "effectctl: " + path("nowhere").toStdString() + ": no such folder\n");
+    EXPECT_EQ(effectctl({"catalogue", "--stock", stock(), "--user", path("nowhere")}).status, 1);
+    EXPECT_EQ(effectctl({"catalogue", "--no-such-option"}).status, 2);
+    EXPECT_EQ(effectctl({"catalogue", "--help"}).status, 0);
+}
+
+TEST_F(CatalogueCommand, QuotesWhatAFilePutsIntoATable)
+{
+    AutoContrast effect;
+    effect.tag = QString::fromUtf8("two\nlines \x1b[31m");
+    storeItem(stock() + "/VideoEffects", "odd", effect);
+    auto const run = effectctl(arguments());
+    EXPECT_THAT(run.output, HasSubstr(R"("two\nlines \u001b[31m")"));
+}
+
+/// Archives of effects, and the command that tells their tools.
+class ToolCommand : public CatalogueCommand
+{
+protected:
+    /// Writes the default effect of a class.
+    QString archive(char const * name) const
+    {
+        QString const file = path(QString("%1.json").arg(name));
+        auto const shown = effectctl({"show", "--json", "--class", QString("Effect::%1").arg(name)});
+        write(file, QByteArray::fromStdString(shown.output));
+        return file;
+    }
+};
+
+TEST_F(ToolCommand, TellsTheTool)
+{
+    QString const crop = archive("Crop");
+    QString const denoise = archive("AudioAiDenoise");
+    QString const opacity = archive("Opacity");
+    auto const run = effectctl({"tool", crop, denoise, opacity});
+    EXPECT_EQ(run.status, 0) << run.errors;
+    EXPECT_EQ(run.output,
+        (crop + ": 5, crop\n" + denoise + ": 17, audio noise reduction\n" + opacity + ": 0, no tool\n").toStdString());
+    json const document = json::parse(effectctl({"tool", "--json", crop}).output);
+    EXPECT_EQ(document,
+        (json::array({{{"file", crop.toStdString()}, {"class", "Effect::Crop"}, {"tool", 5}, {"name", "crop"}}})));
+}
+
+TEST_F(ToolCommand, AsksTheStocksAudioEffects)
+{
+    QString const mono = archive("AudioMonoChannel");
+    storeItem(stock() + "/AudioEffects", "mono", AudioMonoChannel());
+    qputenv("EDITOR_STOCK_DIR", user().toUtf8());
+    EXPECT_EQ(effectctl({"tool", mono}).output, (mono + ": 0, no tool\n").toStdString());
+    qputenv("EDITOR_STOCK_DIR", stock().toUtf8());
+    EXPECT_EQ(effectctl({"tool", mono}).output, (mono + ": 15, audio effects\n").toStdString());
+    qunsetenv("EDITOR_STOCK_DIR");
+}
+
+TEST_F(ToolCommand, GoesOnBehindABadFile)
+{
+    QString const crop = archive("Crop");
+    auto const run = effectctl({"tool", path("nowhere"), crop});
+    EXPECT_EQ(run.status, 1);
+    EXPECT_EQ(run.output, (crop + ": 5, crop\n").toStdString());
+    EXPECT_EQ(run.errors, "effectctl: " + path("nowhere").toStdString() + ": No such file or directory\n");
+    EXPECT_EQ(effectctl({"tool"}).status, 2);
+}
+
+} // namespace

@@ -1,0 +1,31 @@
+#include "Host.h"
+
+BOOST_CLASS_EXPORT_IMPLEMENT(Host::Leaf)
+BOOST_CLASS_EXPORT_IMPLEMENT(Host::Node)
+BOOST_CLASS_EXPORT_IMPLEMENT(Host::Branch)
+
+namespace Host {
+
+namespace {
+
+template <class Class> struct Creator : Serialize::BaseCreator
+{
+    Creator() { boost::serialization::void_cast_register<Class, Serialize::ISerializable>(); }
+    Serialize::ISerializable * create() const override { return new Class; }
+};
+
+Serialize::Registrator const leaf(Leaf::NameInArchive(), new Creator<Leaf>);
+Serialize::Registrator const node(Node::NameInArchive(), new Creator<Node>);
+Serialize::Registrator const branch(Branch::NameInArchive(), new Creator<Branch>);
+
+} // namespace
+
+std::unique_ptr<Node> nested(int depth)
+{
+    auto node = std::make_unique<Node>();
+    if (depth > 1)
+        node->children.push_back(nested(depth - 1));
+    return node;
+}
+
+} // namespace Host

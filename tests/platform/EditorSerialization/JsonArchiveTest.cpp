@@ -1,0 +1,332 @@
+#include <EditorSerialization/JsonArchive.h>
+
+#include <limits>
+#include <stdexcept>
+
+#include <EditorSerialization/Error.h>
+
+#include "Host.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
+
+namespace {
+
+using boost::archive::archive_exception;
+using Host::Branch;
+using Host::Leaf;
+using Host::Node;
+using nlohmann::json;
+using Serialize::ISerializable;
+using testing::HasSubstr;
+
+template <class Value> json saved(Value const & value)
+{
+    json document;
+    Serialize::Json::oarchive archive(document);
+    archive << value;
+    return document;
+}
+
+template <class Value> void load(json const & document, Value & value)
+{
+    Serialize::Json::iarchive archive(document);
+    archive >> value;
+}
+
+/// What is thrown when the value is read from the document.
+template <class Value> std::string errorOf(json const & document, int code = archive_exception::other_exception)
+{
+    Value value{};
+    try {
+        load(document, value);
+    } catch (archive_exception const & error) {
+        EXPECT_EQ(error.code, code) << error.what();
+        return error.what();
+    }
+    return "nothing was thrown";
+}
+
+/// Through a document and its text, and back.
+template <class Value> Value roundTrip(Value const & value)
+{
+    json const document = Serialize::Json::parse(saved(value).dump());
+    Value read{};
+    load(document, read);
+    return read;
+}
+
+json const leafMeta{{"class", "Host::Leaf"}};
+
+TEST(JsonArchive, AnObjectHasItsClassAndItsFields)
+{
+    Leaf leaf;
+    leaf.text = "t";
+    leaf.bytes = "b";
+    leaf.longNumber = 1;
+    leaf.real = 0.5;
+    leaf.color = 2;
+    leaf.number = -3;
+    leaf.flag = true;
+    json const expected{{"$meta", leafMeta}, {"text", "t"}, {"bytes", "b"}, {"longNumber", 1}, {"real", 0.5},
+        {"color", 2}, {"number", -3}, {"flag", true}};
+    EXPECT_EQ(saved(leaf), expected);
+    Branch branch;
+    branch.leaves.push_back(leaf);
+    EXPECT_EQ(saved(branch), (json{{"$meta", {{"class", "Host::Branch"}}}, {"leaves", json::array({expected})}}));
+}
+
+TEST(JsonArchive, ListsAreArraysEvenWhenEmpty)
+{
+    EXPECT_EQ(saved(Branch())["leaves"], json::array());
+}
+
+TEST(JsonArchive, KeepsEveryNumberWhole)
+{
+    double const infinity = std::numeric_limits<double>::infinity();
+    for (double const number : {0.1, 1e308, 5e-324, infinity, -infinity})
+        EXPECT_EQ(roundTrip(number), number);
+    EXPECT_TRUE(std::isnan(roundTrip(std::numeric_limits<double>::quiet_NaN())));
+    double const minusZero = roundTrip(-0.0);
+    EXPECT_TRUE(minusZero == 0 && std::signbit(minusZero));
+    for (std::int64_t const number : {(std::int64_t(1) << 53) + 1, std::numeric_limits<std::int64_t>::min(),
+             std::numeric_limits<std::int64_t>::max()})
+        EXPECT_EQ(roundTrip(number), number);
+    EXPECT_EQ(roundTrip(0xFFFFFFFFU), 0xFFFFFFFFU);
+}
+
+TEST(JsonArchive, NumbersThatAreNoneAreSpelt)
+{
+    EXPECT_EQ(saved(std::numeric_limits<double>::infinity()), "Infinity");
+    EXPECT_EQ(saved(-std::numeric_limits<double>::infinity()), "-Infinity");
+    EXPECT_EQ(saved(std::numeric_limits<double>::quiet_NaN()), "NaN");
+}
+
+TEST(JsonArchive, KeepsEveryTextWhole)
+{
+    QString const clef = QString::fromUtf8("a\xF0\x9D\x84\x9E");
+    EXPECT_EQ(saved(clef), u8"a\U0001D11E");
+    for (QString const & text : {QString("plain"), clef, QString(QChar(0xD834)), QString("x") + QChar(0xDD1E) + "y",
+             QString(QChar(0))})
+        EXPECT_EQ(roundTrip(text), text);
+    EXPECT_EQ(saved(QString("x") + QChar(0xD834)), (json{{"$utf16", {0x78, 0xD834}}}));
+    EXPECT_TRUE(roundTrip(QString()).isNull());
+    EXPECT_EQ(saved(QString()), json());
+    QString const empty = roundTrip(QString(""));
+    EXPECT_TRUE(empty.isEmpty() && !empty.isNull());
+}
+
+TEST(JsonArchive, KeepsBytesThatAreNoUtf8)
+{
+    // Overlong, cut, a surrogate, past the last character, and a lone byte of each kind.
+    for (std::string const & bytes : {std::string("\xC0\x80"), std::string("\xE2\x82"), std::string("\xED\xA0\x80"),
+             std::string("\xF4\x90\x80\x80"), std::string("\x80"), std::string("\xFF"), std::string("\x00\xFE", 2)}) {
+        EXPECT_TRUE(saved(bytes).contains("$bytes")) << testing::PrintToString(bytes);
+        EXPECT_EQ(roundTrip(bytes), bytes);
+    }
+    // FF FE in base64.
+    EXPECT_EQ(saved(std::string("\xFF\xFE")), (json{{"$bytes", "//4="}}));
+    std::string const text = u8"Grüße \U0001D11E \uFFFF";
+    EXPECT_EQ(saved(text), text);
+    EXPECT_EQ(roundTrip(text), text);
+}
+
+TEST(JsonArchive, ATextThatIsThereAlreadyKeepsItsStorage)
+{
+    QString const constant = "effect_crop";
+    QString text = constant;
+    load(json("effect_crop"), text);
+    EXPECT_EQ(text.constData(), constant.constData());
+}
+
+TEST(JsonArchive, AbsentKeysLeaveTheirFields)
+{
+    Leaf leaf;
+    leaf.number = 5;
+    leaf.text = "old";
+    load(json{{"$meta", leafMeta}, {"number", 6}, {"unknown", {1, 2, 3}}}, leaf);
+    EXPECT_EQ(leaf.number, 6);
+    EXPECT_EQ(leaf.text, "old");
+    // The meta object may be missing where the class is known.
+    load(json{{"number", 7}}, leaf);
+    EXPECT_EQ(leaf.number, 7);
+}
+
+TEST(JsonArchive, WrongValuesAreToldWithTheirPlace)
+{
+    EXPECT_EQ(errorOf<Leaf>({{"real", "much"}}), "a number is expected, found string, at /real");
+    EXPECT_EQ(errorOf<Leaf>({{"flag", 1}}), "true or false is expected, found number, at /flag");
+    EXPECT_EQ(errorOf<Leaf>({{"text", 1}}), "a string is expected, found number, at /text");
+    EXPECT_EQ(errorOf<Leaf>({{"number", 1.5}}), "an integer is expected, found number, at /number");
+    EXPECT_EQ(errorOf<Leaf>({{"number", 2147483648}}), "the number 2147483648 is out of range, at /number");
+    EXPECT_EQ(errorOf<Leaf>({{"number", -2147483649}}), "the number -2147483649 is out of range, at /number");
+    EXPECT_EQ(errorOf<Leaf>({{"color", -1}}), "the number -1 is out of range, at /color");
+    EXPECT_EQ(errorOf<Leaf>({{"color", 4294967296}}), "the number 4294967296 is out of range, at /color");
+    EXPECT_EQ(errorOf<Leaf>({{"bytes", {{"$bytes", "?"}}}}), "the string is no base64, at /bytes");
+    EXPECT_EQ(errorOf<Leaf>({{"text", {{"$utf16", {65536}}}}}), "the number 65536 is out of range, at /text");
+    EXPECT_EQ(errorOf<Branch>({{"leaves", {{{"number", 0}}, {{"number", true}}}}}),
+        "an integer is expected, found boolean, at /leaves/1/number");
+    EXPECT_EQ(errorOf<Branch>({{"leaves", 5}}), "an array is expected, found number, at /leaves");
+    EXPECT_EQ(errorOf<Leaf>(5), "an object is expected, found number, at /");
+    EXPECT_EQ(errorOf<Leaf>({{"$meta", {{"class", "Host::Node"}}}}),
+        "an object of the class Host::Leaf is expected, found \"Host::Node\", at /");
+}
+
+using Owner = std::unique_ptr<ISerializable>;
+
+TEST(JsonArchive, PointersKnowTheirClass)
+{
+    Node node;
+    node.children.push_back(std::make_unique<Leaf>());
+    node.children.push_back(nullptr);
+    ISerializable const * const pointer = &node;
+    json const document = saved(pointer);
+    EXPECT_EQ(document["children"][1], json());
+    Owner read;
+    load(document, read);
+    auto const & children = dynamic_cast<Node &>(*read).children;
+    ASSERT_EQ(children.size(), 2U);
+    EXPECT_NE(dynamic_cast<Leaf *>(children[0].get()), nullptr);
+    EXPECT_EQ(children[1], nullptr);
+}
+
+TEST(JsonArchive, PointersToNothingKnownAreRefused)
+{
+    EXPECT_EQ(errorOf<Owner>({{"$meta", {{"class", "None"}}}}, archive_exception::unregistered_class),
+        "unregistered class - \"None\", at /");
+    EXPECT_EQ(errorOf<Owner>(json::object()), "the object does not say its class, at /");
+    EXPECT_EQ(errorOf<Owner>(1), "an object or null is expected, found number, at /");
+    EXPECT_EQ(errorOf<Node>({{"children", {nullptr, {{"$meta", {{"class", "X"}}}}}}},
+                  archive_exception::unregistered_class),
+        "unregistered class - \"X\", at /children/1");
+    EXPECT_EQ(errorOf<std::unique_ptr<Node>>({{"$meta", leafMeta}}),
+        "an object of the class Host::Leaf does not belong here, at /");
+}
+
+TEST(JsonArchive, UnregisteredClassesAreRefused)
+{
+    Host::Unknown const unknown;
+    ISerializable const * const pointer = &unknown;
+    try {
+        saved(pointer);
+        FAIL();
+    } catch (archive_exception const & error) {
+        EXPECT_EQ(error.code, archive_exception::unregistered_class);
+        EXPECT_THAT(error.what(), HasSubstr("derived class not registered or exported"));
+    }
+    // By value it has no archive name to go by.
+    try {
+        saved(unknown);
+        FAIL();
+    } catch (archive_exception const & error) {
+        EXPECT_EQ(error.code, archive_exception::unregistered_class);
+    }
+}
+
+json reference(int id)
+{
+    return {{"$meta", {{"ref", id}}}};
+}
+
+json numbered(int id, json object)
+{
+    object["$meta"]["id"] = id;
+    return object;
+}
+
+TEST(JsonArchive, ReferencesStandForTheirObjects)
+{
+    json const leaf = numbered(4, {{"$meta", leafMeta}, {"number", 9}});
+    Branch branch;
+    load(json{{"leaves", {reference(4), leaf, reference(4)}}}, branch);
+    ASSERT_EQ(branch.leaves.size(), 3U);
+    for (Leaf const & read : branch.leaves)
+        EXPECT_EQ(read.number, 9);
+    // Through pointers, each becomes an object of its own.
+    Node node;
+    load(json{{"children", {leaf, reference(4)}}}, node);
+    ASSERT_EQ(node.children.size(), 2U);
+    EXPECT_NE(node.children[0], node.children[1]);
+    EXPECT_EQ(dynamic_cast<Leaf &>(*node.children[1]).number, 9);
+}
+
+TEST(JsonArchive, ReferencesToNothingAreOutOfRange)
+{
+    for (json const & document : {json{{"leaves", {reference(1)}}}, json{{"leaves", reference(1)}}, reference(1)}) {
+        Branch branch;
+        try {
+            load(document, branch);
+            FAIL() << document;
+        } catch (std::out_of_range const & error) {
+            EXPECT_STREQ(error.what(), "invalid map<K, T> key");
+        }
+    }
+}
+
+TEST(JsonArchive, ReferencesThatFormACircleAreRefused)
+{
+    json const circle{{"leaves", {numbered(1, reference(2)), numbered(2, reference(1))}}};
+    EXPECT_THAT(errorOf<Branch>(circle), HasSubstr("the references form a circle"));
+    json const inside = numbered(1, {{"$meta", {{"class", "Host::Node"}}}, {"children", {reference(1)}}});
+    EXPECT_THAT(errorOf<Node>(inside), HasSubstr("deep"));
+}
+
+TEST(JsonArchive, ReferencesDoNotMultiplyWithoutEnd)
+{
+    // Each object holds the next one twice: thirty of them stand for 2^30 leaves.
+    json const leaf = numbered(30, {{"$meta", leafMeta}});
+    json children = json::array({leaf});
+    for (int id = 29; id >= 1; --id)
+        children.push_back(numbered(
+            id, {{"$meta", {{"class", "Host::Node"}}}, {"children", {reference(id + 1), reference(id + 1)}}}));
+    json const document{{"$meta", {{"class", "Host::Node"}}}, {"children", children}};
+    EXPECT_THAT(errorOf<Node>(document), HasSubstr("stand for too much"));
+}
+
+TEST(JsonArchive, TwoObjectsWithOneNumberAreRefused)
+{
+    json const leaf = numbered(1, {{"$meta", leafMeta}});
+    EXPECT_THAT(errorOf<Branch>({{"leaves", {leaf, leaf, reference(1)}}}), HasSubstr("have the number 1"));
+}
+
+TEST(JsonText, ErrorsNameTheirPlace)
+{
+    auto const errorOf = [](std::string const & text) -> std::string {
+        try {
+            Serialize::Json::parse(text);
+        } catch (archive_exception const & error) {
+            return error.what();
+        }
+        return "nothing was thrown";
+    };
+    EXPECT_THAT(errorOf("{\"a\": 1,\n \"b\": }"), HasSubstr("line 2, column 7"));
+    EXPECT_THAT(errorOf(""), HasSubstr("this is no JSON"));
+    EXPECT_THAT(errorOf("{} x"), HasSubstr("this is no JSON"));
+    EXPECT_THAT(errorOf(std::string("{}\0{", 4)), HasSubstr("byte 3 is zero"));
+    EXPECT_THAT(errorOf("\"\xFF\""), HasSubstr("this is no JSON"));
+    EXPECT_THAT(errorOf("1e999"), HasSubstr("this is no JSON"));
+}
+
+TEST(JsonText, DepthIsLimited)
+{
+    auto const nested = [](int depth) {
+        return std::string(static_cast<std::size_t>(depth), '[') + std::string(static_cast<std::size_t>(depth), ']');
+    };
+    EXPECT_NO_THROW(Serialize::Json::parse(nested(256)));
+    EXPECT_THROW(Serialize::Json::parse(nested(257)), archive_exception);
+    EXPECT_THROW(Serialize::Json::parse(nested(100'000)), archive_exception);
+    std::string objects;
+    for (int depth = 0; depth < 100'000; ++depth)
+        objects += "{\"a\":";
+    EXPECT_THROW(Serialize::Json::parse(objects), archive_exception);
+}
+
+TEST(JsonText, IsParsedAsTheLibraryDoes)
+{
+    for (char const * const text : {"null", "[1, -2, 3.5, \"x\", true, {\"a\": {}, \"b\": []}]",
+             "{\"k\": 1, \"k\": 2, \"n\": 18446744073709551615, \"m\": -0.0}"})
+        EXPECT_EQ(Serialize::Json::parse(text), json::parse(text)) << text;
+}
+
+} // namespace

@@ -1,0 +1,177 @@
+#include <EditorUtil/CollectionHolder.h>
+
+#include <memory>
+#include <string>
+#include <thread>
+#include <utility>
+#include <vector>
+
+#include <EditorModel/CollectionProvider.h>
+#include <EditorUtil/Item.h>
+
+#include "../EditorModel/TestEffect.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace {
+
+using namespace EditorCollection;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+std::unique_ptr<IItem> itemWithTag(QString const & tag)
+{
+    auto effect = std::make_unique<Sample::Effect>();
+    effect->tag = tag;
+    auto made = makeItem(std::move(effect));
+    made.storage.releaseAll();
+    return std::move(made.pointer);
+}
+
+TEST(CollectionHolder, MakesItsCollectionsKnownWhileItLives)
+{
+    ASSERT_THAT(CollectionProvider::collections(), IsEmpty());
+    {
+        CollectionHolder holder;
+        EXPECT_EQ(holder.collection("A"), nullptr);
+        holder.registerCollection("A");
+        holder.registerCollection("B");
+        ASSERT_NE(holder.collection("A"), nullptr);
+        EXPECT_EQ(holder.collection("A")->name(), "A");
+        EXPECT_EQ(CollectionProvider::collection("A"), holder.collection("A"));
+        EXPECT_THAT(CollectionProvider::collections(), ElementsAre(holder.collection("A"), holder.collection("B")));
+        EXPECT_EQ(CollectionProvider::collection("C"), nullptr);
+    }
+    EXPECT_EQ(CollectionProvider::collection("A"), nullptr);
+}
+
+TEST(CollectionHolder, RegistersANameOnce)
+{
+    CollectionHolder holder;
+    holder.registerCollection("A");
+    ICollection * const first = holder.collection("A");
+    holder.registerCollection("A");
+    EXPECT_EQ(holder.collection("A"), first);
+    EXPECT_EQ(CollectionProvider::collections().size(), 1U);
+}
+
+TEST(CollectionHolder, TheLaterOfTwoIsFoundAsLongAsItLives)
+{
+    CollectionHolder first;
+    first.registerCollection("A");
+    {
+        CollectionHolder second;
+        second.registerCollection("A");
+        EXPECT_EQ(CollectionProvider::collection("A"), second.collection("A"));
+        EXPECT_EQ(first.collection("A")->name(), "A");
+    }
+    EXPECT_EQ(CollectionProvider::collection("A"), first.collection("A"));
+}
+
+/// Notes which loads were dropped.
+class DroppingStorage final : public IItemStorage
+{
+public:
+    DroppingStorage() { CollectionProvider::setItemStorage(this); }
+    ~DroppingStorage() override { CollectionProvider::setItemStorage(nullptr); }
+
+    std::vector<QString> dropped;
+
+    void loadItems(QString const &, QString const &, ItemCallback) override {}
+    void dropLoads(QString const & collectionName) override
+    {
+        // The collections are still there for callbacks that run until now.
+        EXPECT_NE(CollectionProvider::collection(collectionName), nullptr);
+        dropped.push_back(collectionName);
+    }
+};
+
+TEST(CollectionHolder, DropsTheLoadsOfItsCollectionsBeforeTheyGo)
+{
+    DroppingStorage storage;
+    {
+        CollectionHolder holder;
+        holder.registerCollection("A");
+        holder.registerCollection("B");
+    }
+    EXPECT_THAT(storage.dropped, ElementsAre("A", "B"));
+}
+
+class CollectionTest : public testing::Test
+{
+protected:
+    CollectionTest() { m_holder.registerCollection("Samples"); }
+    ICollection & collection() { return *m_holder.collection("Samples"); }
+
+private:
+    CollectionHolder m_holder;
+};
+
+TEST_F(CollectionTest, TakesItemsOver)
+{
+    auto item = itemWithTag("a");
+    IItem const * const address = item.get();
+    collection().addItem(std::move(item));
+    EXPECT_EQ(item, nullptr);
+    EXPECT_THAT(collection().items(), ElementsAre(address));
+}
+
+TEST_F(CollectionTest, LeavesNullWithTheCaller)
+{
+    collection().addItem(nullptr);
+    EXPECT_THAT(collection().items(), IsEmpty());
+}
+
+TEST_F(CollectionTest, FindsTheFirstItemWithATag)
+{
+    EXPECT_EQ(collection().itemByTag("a"), nullptr);
+    auto first = itemWithTag("a");
+    IItem const * const address = first.get();
+    collection().addItem(std::move(first));
+    collection().addItem(itemWithTag("a"));
+    collection().addItem(itemWithTag("b"));
+    EXPECT_EQ(collection().itemByTag("a"), address);
+    EXPECT_NE(collection().itemByTag("b"), address);
+    EXPECT_EQ(collection().itemByTag("c"), nullptr);
+    EXPECT_EQ(collection().itemByTag(""), nullptr);
+}
+
+TEST_F(CollectionTest, KeepsACategoryAsItWasAdded)
+{
+    EXPECT_FALSE(collection().hasCategory("a"));
+    collection().addCategory("b", {CategoryInfo::Kind::Thematic, 0});
+    collection().addCategory("a", {CategoryInfo::Kind::User, 1});
+    collection().addCategory("b", {CategoryInfo::Kind::User, 2});
+    EXPECT_TRUE(collection().hasCategory("a"));
+    auto const categories = collection().categories();
+    ASSERT_EQ(categories.size(), 2U);
+    EXPECT_EQ(categories[0].name, "b");
+    EXPECT_EQ(categories[0].info.kind, CategoryInfo::Kind::Thematic);
+    EXPECT_EQ(categories[0].info.position, 0);
+    EXPECT_EQ(categories[1].name, "a");
+}
+
+TEST_F(CollectionTest, MayBeUsedFromSeveralThreads)
+{
+    constexpr int perThread = 500;
+    std::vector<std::thread> threads;
+    for (int index = 0; index < 4; ++index) {
+        threads.emplace_back([this, index] {
+            for (int number = 0; number < perThread; ++number) {
+                QString const tag = QString::number(index * perThread + number);
+                if (!collection().hasCategory(QString::number(number % 7)))
+                    collection().addCategory(QString::number(number % 7), {});
+                collection().addItem(itemWithTag(tag));
+                EXPECT_NE(collection().itemByTag(tag), nullptr);
+                EXPECT_FALSE(collection().items().empty());
+            }
+        });
+    }
+    for (std::thread & thread : threads)
+        thread.join();
+    EXPECT_EQ(collection().items().size(), 4U * perThread);
+    EXPECT_EQ(collection().categories().size(), 7U);
+}
+
+} // namespace
