@@ -132,11 +132,16 @@ json describe(EditorCollection::IItem const & item)
         {"groupId", effect.groupId.toStdString()}, {"categories", std::move(categories)}, {"user", item.userFlagA()}};
 }
 
+/// Such as "1 item" and "2 items".
+std::string counted(std::size_t count, std::string const & noun)
+{
+    return std::to_string(count) + ' ' + noun + (count == 1 ? "" : "s");
+}
+
 void printCollection(std::ostream & stream, json const & collection)
 {
     json const & items = collection["items"];
-    stream << collection["name"].get<std::string>() << ": " << items.size() << (items.size() == 1 ? " item" : " items")
-           << '\n';
+    stream << collection["name"].get<std::string>() << ": " << counted(items.size(), "item") << '\n';
     if (items.empty())
         return;
     bool const areConverted = items[0].contains("result");
@@ -177,13 +182,12 @@ json toJson(Summary const & summary, bool areConverted)
 
 void printSummary(std::ostream & stream, Summary const & summary, bool areConverted)
 {
-    stream << summary.items << " items";
-    if (areConverted) {
-        stream << ": " << summary.converted << " converted, " << summary.descriptors << " descriptors, "
-               << summary.holders << " holders with " << summary.held << " effects converted each on its own, "
-               << summary.notConverted << " not converted";
-    }
-    stream << "; " << summary.unreadable << " files could not be read\n";
+    stream << counted(summary.items, "item");
+    if (areConverted)
+        stream << ": " << summary.converted << " converted, " << counted(summary.descriptors, "descriptor") << ", "
+               << counted(summary.holders, "holder") << " with " << counted(summary.held, "effect")
+               << " converted each on its own, " << summary.notConverted << " not converted";
+    stream << "; " << counted(summary.unreadable, "file") << " could not be read\n";
 }
 
 /// Throws a `Failure` where a folder is missing that the user named.

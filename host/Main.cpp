@@ -3,7 +3,21 @@
 
 #include "Command.h"
 
+#include <QString>
+#include <QtGlobal>
+
 #include <glog/logging.h>
+
+namespace {
+
+/// Passes Qt's messages on, but for the one about a folder that only sessions with a display have.
+void handleMessage(QtMsgType, QMessageLogContext const &, QString const & message)
+{
+    if (!message.startsWith(QLatin1String("QStandardPaths: ")))
+        std::cerr << "effectctl: " << message.toStdString() << '\n';
+}
+
+} // namespace
 
 int main(int argc, char ** argv)
 {
@@ -12,6 +26,7 @@ int main(int argc, char ** argv)
     google::InitGoogleLogging(argv[0]);
     for (google::LogSeverity severity = 0; severity < google::NUM_SEVERITIES; ++severity)
         google::SetLogDestination(severity, "");
+    qInstallMessageHandler(handleMessage);
     // Pictures are read, and nothing is shown.
     setenv("QT_QPA_PLATFORM", "offscreen", 0);
 

@@ -19,7 +19,6 @@ import pathlib
 import re
 import subprocess
 
-META = "$meta"
 OBJECT = "Effect::Object"
 IMAGE, BLOB = 3, 4  # types of resources
 
@@ -100,11 +99,11 @@ def named(name, key, names, *categories, **changes):
 
 def transform(scale_x=1.0, scale_y=1.0, left=0.0, down=0.0):
     """Scales from the middle of the picture, then moves; the picture's width and height are 1."""
-    return {META: {"class": "Types::Transform"}, "m": [scale_x, 0, 0, 0, scale_y, 0, left, down, 1]}
+    return {"m": [scale_x, 0, 0, 0, scale_y, 0, left, down, 1]}
 
 
 def resource(name, kind):
-    return {META: {"class": "Resource::ID"}, "name": name, "type": kind}
+    return {"name": name, "type": kind}
 
 
 def color(rgb):
@@ -259,7 +258,6 @@ VIDEO_EFFECTS = [
 ]
 
 COLOR_FILTER_ITEMS = [
-    Item("ManualEnhance", "", ADJUST),
     Item("ManualEnhance", "brighter", ADJUST, brightness=0.15, shadows=0.1),
     Item("ManualEnhance", "open_shadows", ADJUST, shadows=0.45, highlights=-0.2),
     Item("ManualEnhance", "punch", ADJUST, contrast=0.3, saturation=0.2, shadows=-0.1),
@@ -328,7 +326,6 @@ RECTANGLE, ELLIPSE = 0, 1
 FILL, BLURRED, PIXELS = 0, 1, 2
 
 MASKS = [
-    Item("Mask", "", HIGHLIGHT),
     Item("Mask", "spotlight", HIGHLIGHT, backgroundOpacity=0.75, backgroundSmoothness=0.3, highlightFrames=[
         Inner("FrameHighlight", shape=ELLIPSE, transform=transform(0.4, 0.6))]),
     Item("Mask", "soft_focus", HIGHLIGHT, backgroundFill=1, backgroundOpacity=1, backgroundSmoothness=0.5,

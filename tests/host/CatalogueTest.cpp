@@ -123,7 +123,7 @@ TEST_F(CatalogueCommand, ConvertsEveryItem)
                                        {"holders", 1}, {"held", 2}, {"notConverted", 0}}));
 
     EXPECT_THAT(effectctl(arguments({"--convert"})).output,
-        testing::EndsWith("\n4 items: 2 converted, 1 descriptors, 1 holders with 2 effects converted each on its own, "
+        testing::EndsWith("\n4 items: 2 converted, 1 descriptor, 1 holder with 2 effects converted each on its own, "
                           "0 not converted; 0 files could not be read\n"));
 }
 

@@ -124,7 +124,7 @@ TEST_F(FilesTest, ShowPrintsAHolderWithWhatIsInside)
     EXPECT_EQ(run.status, 0) << run.errors;
     EXPECT_THAT(run.output, StartsWith("Effect::AudioEnhance\n"));
     EXPECT_THAT(run.output, HasSubstr("2 items\n    Effect::AudioNoiseSuppress\n"));
-    EXPECT_THAT(run.output, HasSubstr("levelPercent    50\n"));
+    EXPECT_THAT(run.output, HasSubstr("levelPercent  50\n"));
     EXPECT_THAT(run.output, HasSubstr("    (empty)\n"));
 }
 
@@ -182,9 +182,8 @@ TEST_F(FilesTest, ConvertTakesAHolderApart)
 
 TEST(BatchConversion, AnswersInTheDocumentedForm)
 {
-    json const expected{{"class", "Effect::Blur"}, {"stageCode", 18}, {"implementation", "DEFAULT"},
-        {"settings", {{{"class", "SettingsEffectBlurGaussian"}, {"calls", {{"SetScale", 1.0}}}, {"fields", json::object()}}}},
-        {"log", json::array()}};
+    json const expected = json::parse(R"({"class": "Effect::Blur", "stageCode": 18, "implementation": "DEFAULT",
+        "settings": [{"class": "SettingsEffectBlurGaussian", "calls": [["SetScale", 1.0]], "fields": {}}], "log": []})");
     EXPECT_EQ(answer(R"({"class": "Effect::Blur", "object": {"intensity": 20}})"), expected);
 }
 
@@ -193,13 +192,13 @@ TEST(BatchConversion, ReplacesSingleKeys)
     // A nested record may leave its meta object out.
     json const equalizer = answer(
         R"({"class": "Effect::AudioEqualizer", "fields": {"multiband": [{"centralFrequency": 500, "gain": -1.5}]}})");
-    EXPECT_EQ(equalizer["settings"][0]["calls"], (json{{"SetMultiband", {{500, -1.5}}}}));
+    EXPECT_EQ(equalizer["settings"][0]["calls"], json::parse(R"([["SetMultiband", [[500, -1.5]]]])"));
     json const reverb = answer(R"({"class": "Effect::AudioReverb", "audio": {"sampleRate": 22050}})");
-    json const call{"SetSlpfFrequency", 11025};
+    json const call = json::parse(R"(["SetSlpfFrequency", 11025])");
     EXPECT_THAT(reverb["settings"][0]["calls"], testing::Contains(call));
     json const vertical = answer(
         R"({"class": "Effect::FixVertVideo", "video": {"frameGeometry": [1080, 1920], "duration": 5}})");
-    EXPECT_EQ(vertical["settings"][0]["fields"]["geometry"], (json{1080, 1920}));
+    EXPECT_EQ(vertical["settings"][0]["fields"]["geometry"], json::parse("[1080, 1920]"));
 }
 
 TEST(BatchConversion, TakesTheOtherOperationWhenAsked)

@@ -256,7 +256,12 @@ TEST(ClassList, NamesEveryRegisteredClass)
     EFFECTS_ALL(EDITOR_NAME)
 #undef EDITOR_NAME
     std::sort(listed.begin(), listed.end());
-    EXPECT_THAT(Serialize::Registry::names(), testing::ElementsAreArray(listed));
+    // The test program has classes of its own besides.
+    std::vector<std::string> registered;
+    for (std::string const & name : Serialize::Registry::names())
+        if (name.rfind("Effect::", 0) == 0)
+            registered.push_back(name);
+    EXPECT_THAT(registered, testing::ElementsAreArray(listed));
     // Neither has an archive name.
     EXPECT_THAT(listed, testing::Not(testing::Contains("Effect::ColorBlendingBase")));
     EXPECT_EQ(Serialize::Registry::create("Effect::ColorMixField"), nullptr);

@@ -8,8 +8,9 @@
 
 #include <EditorSerialization/BinaryArchive.h>
 #include <EditorSerialization/JsonArchive.h>
-#include <EditorSerialization/Registry.h>
 #include <support/Variations.h>
+
+#include "AllClasses.h"
 
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
@@ -99,9 +100,11 @@ TEST_P(GoldenTest, Binary)
 std::vector<Golden> goldens()
 {
     std::vector<Golden> goldens;
-    for (std::string const & name : Serialize::Registry::names())
-        for (bool const isVaried : {false, true})
-            goldens.push_back({name, isVaried});
+#define EDITOR_GOLDENS(Class)                                                                                          \
+    goldens.push_back({Effect::Class::NameInArchive(), false});                                                        \
+    goldens.push_back({Effect::Class::NameInArchive(), true});
+    EFFECTS_ALL(EDITOR_GOLDENS)
+#undef EDITOR_GOLDENS
     return goldens;
 }
 

@@ -21,6 +21,7 @@
 #include <effects/Light.h>
 #include <effects/Retro.h>
 #include <support/Conversion.h>
+#include <support/LogCapture.h>
 #include <utils/LutUtils.h>
 
 #include <QFileInfo>
@@ -75,7 +76,7 @@ public:
         return entries;
     }
 
-    std::vector<std::string> const & errors() const { return m_log.lines; }
+    std::vector<std::string> const & errors() const { return m_log.errors(); }
 
 private:
     int m_argumentCount = 1;
@@ -83,7 +84,7 @@ private:
     char * m_arguments[2] = {m_name, nullptr};
     QGuiApplication m_application{m_argumentCount, m_arguments}; // pictures cannot be made without
     QTemporaryDir m_user;
-    Testing::LogCapture m_log;
+    LogCapture m_log;
     ItemStorage m_storage;
     std::unique_ptr<Effect::ContentProvider> m_provider;
 };

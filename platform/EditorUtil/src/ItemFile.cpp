@@ -152,14 +152,13 @@ void storeItem(
     QString const & folder, QString const & name, Effect::Object const & effect, std::set<QString> const & categories)
 {
     QString const place = FS::absolutePath(folder);
+    if (name.isEmpty() || name.contains(QLatin1Char('/')) || name.contains(QChar::Null))
+        throw std::runtime_error((place + QLatin1String(": an item's file cannot be named ") + name).toStdString());
     QString const suffix = QString::fromLatin1(itemFileSuffix.data(), static_cast<int>(itemFileSuffix.size()));
     QString const path = FS::joinPath({place, name}, suffix);
     auto const fail = [&path](QString const & reason) {
         throw std::runtime_error((path + QLatin1String(": ") + reason).toStdString());
     };
-    if (name.isEmpty() || name.contains(QLatin1Char('/')) || name.contains(QChar::Null))
-        fail(QStringLiteral("is no name of a file"));
-
     json document;
     json & archived = document[effectKey] = documentOf(effect);
     QString const start = place + QLatin1Char('/');

@@ -9,6 +9,23 @@ namespace Quoril::Proc {
 
 namespace {
 
+/// A text between quotes, with JSON's escapes for what would end it or its line.
+std::string quoted(std::string const & text)
+{
+    std::string quoted = "\"";
+    for (char const byte : text) {
+        switch (byte) {
+        case '"': quoted += "\\\""; break;
+        case '\\': quoted += "\\\\"; break;
+        case '\n': quoted += "\\n"; break;
+        case '\r': quoted += "\\r"; break;
+        case '\t': quoted += "\\t"; break;
+        default: quoted += byte;
+        }
+    }
+    return quoted + '"';
+}
+
 Value::Data dataOf(std::uint64_t number)
 {
     if (number <= static_cast<std::uint64_t>(std::numeric_limits<std::int64_t>::max())) {
@@ -76,7 +93,7 @@ std::string Value::toString() const
                 std::array<char, 32> text{};
                 return {text.data(), std::to_chars(text.data(), text.data() + text.size(), data).ptr};
             } else if constexpr (std::is_same_v<T, std::string>) {
-                return '"' + data + '"';
+                return quoted(data);
             } else if constexpr (std::is_same_v<T, List>) {
                 std::string text;
                 for (Value const & entry : data) {

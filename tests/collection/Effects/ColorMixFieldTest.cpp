@@ -3,6 +3,7 @@
 #include <string>
 #include <typeinfo>
 
+#include <EditorModel/CollectionProvider.h>
 #include <EditorModel/EffectArchive.h>
 #include <EditorModel/EffectFactory.h>
 #include <effects/archive/Base.h>
@@ -61,6 +62,14 @@ std::string converted(Object const & effect)
 
 class ColorMixFieldOfAHost : public testing::Test
 {
+    struct NoItems
+    {
+        NoItems() { EditorCollection::CollectionProvider::setItemStorage(&storage); }
+        ~NoItems() { EditorCollection::CollectionProvider::setItemStorage(nullptr); }
+        EditorCollection::NullItemStorage storage;
+    };
+
+    NoItems m_items;
     ContentProvider m_provider;
 };
 

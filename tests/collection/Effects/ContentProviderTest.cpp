@@ -34,6 +34,7 @@ using Effect::ContentProvider;
 using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::SizeIs;
+using Testing::ManualStorage;
 
 /// The indices of the loads, in the order in which they are asked for.
 enum LoadIndex : std::size_t

@@ -208,9 +208,9 @@ TEST(StoreItem, TellsPathAndReason)
         }
         return {};
     };
-    EXPECT_EQ(problem(folder.path(), ""), folder.file(".effect.json: is no name of a file"));
-    EXPECT_THAT(problem(folder.path(), "../item"), HasSubstr("is no name of a file"));
-    EXPECT_THAT(problem(folder.path(), QString(1, QChar::Null)), HasSubstr("is no name of a file"));
+    EXPECT_EQ(problem(folder.path(), ""), folder.nativePath() + ": an item's file cannot be named ");
+    EXPECT_THAT(problem(folder.path(), "../item"), HasSubstr(": an item's file cannot be named ../item"));
+    EXPECT_THAT(problem(folder.path(), QString(1, QChar::Null)), HasSubstr(": an item's file cannot be named "));
     EXPECT_EQ(
         problem(folder.path() + "/file", "item"), folder.file("file/item.effect.json: the folder cannot be made"));
     ASSERT_EQ(::mkdir(folder.file("taken.effect.json").c_str(), 0700), 0);

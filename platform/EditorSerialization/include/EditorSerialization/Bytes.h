@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <streambuf>
 #include <string>
 
@@ -57,9 +58,9 @@ public:
     /// A value that is not there whole changes nothing.
     template <class T> void read(T & value)
     {
-        T whole(value);
-        read(&whole, sizeof whole);
-        value = whole;
+        unsigned char whole[sizeof value];
+        read(whole, sizeof whole);
+        std::memcpy(static_cast<void *>(&value), whole, sizeof value);
     }
     void read(bool & value); ///< one byte, 0 or 1
     void read(std::string & text);
