@@ -44,6 +44,7 @@ int main(int argc, char ** argv)
     try {
         program.parse(argc, argv);
     } catch (CLI::RuntimeError const & error) {
+        // Whoever threw it has told why.
         return error.get_exit_code();
     } catch (CLI::ParseError const & error) {
         return program.exit(error) == 0 ? Host::Status::done : Host::Status::wrongUsage;

@@ -19,8 +19,9 @@ struct LUTTable; // <ParserLUT/LUTTable.h>
 
 namespace Effect::Utils {
 
-/// Reads a lookup table out of the text of a file, in any format that there is a parser for, just as the conversion of
-/// an `Effect::Lut` does. White space around the text plays no part. Any thread may call it.
+/// Reads a lookup table out of the text of a file, in any format that there is a parser for, with the parser that the
+/// conversion of an `Effect::Lut` uses. All of `data` is text, but white space at its ends plays no part. Any thread
+/// may call it.
 /// @param error  if not null, told what is wrong with the table; left alone when no format begins like the text
 /// @return null for what is no table
 EFFECTS_API std::shared_ptr<Quoril::Proc::LUT::LUTTable> parseLutEffect(QByteArray const & data, QString * error);
