@@ -64,6 +64,8 @@ install(DIRECTORY stock/ DESTINATION "${CMAKE_INSTALL_DATADIR}/EditorEffects/sto
   PATTERN "__pycache__" EXCLUDE
   PATTERN "CMakeLists.txt" EXCLUDE)
 
+install(FILES LICENSE NOTICE DESTINATION "${CMAKE_INSTALL_DOCDIR}" COMPONENT runtime)
+
 # --- The tool ----------------------------------------------------------------
 
 if(TARGET effectctl)

@@ -47,6 +47,13 @@ function(use_package prefix)
 
   run(text "${prefix}/bin/effectctl" show --class Effect::Crop --json)
   expect_archive("the installed tool" "${text}")
+
+  # The content that was installed along with it.
+  run(text "${CMAKE_COMMAND}" -E env --unset=EDITOR_STOCK_DIR "${prefix}/bin/effectctl" catalogue --json)
+  string(JSON items ERROR_VARIABLE error GET "${text}" summary items)
+  if(NOT items GREATER 0)
+    fail("The installed tool should find the stock content, but printed:\n${text}")
+  endif()
 endfunction()
 
 # The editor's libraries can come from elsewhere too: the library is configured against the installed ones.
