@@ -17,9 +17,9 @@
 #include <boost/serialization/string.hpp>
 #include <boost/serialization/unique_ptr.hpp>
 
-#include <effects/Effects.h>
 #include <EditorSerialization/BinaryArchive.h>
 #include <EditorSerialization/JsonArchive.h>
+#include <effects/Effects.h>
 
 #include <benchmark/benchmark.h>
 #include <nlohmann/json.hpp>
@@ -155,8 +155,8 @@ struct ManualEnhance : VideoEffect
     double gamma, highlights, shadows, brightness, contrast, saturation, hue, temperature, tint;
     template <class Archive> void serialize(Archive & archive, unsigned)
     {
-        archive & boost::serialization::base_object<VideoEffect>(*this) & gamma & highlights & shadows & brightness &
-            contrast & saturation & hue & temperature & tint;
+        archive & boost::serialization::base_object<VideoEffect>(*this) &
+            gamma & highlights & shadows & brightness & contrast & saturation & hue & temperature & tint;
     }
 };
 
@@ -184,8 +184,8 @@ struct ChromaKey : VideoEffect
     int hueTolerance, noiseLevel, harshness, transparency;
     template <class Archive> void serialize(Archive & archive, unsigned)
     {
-        archive & boost::serialization::base_object<VideoEffect>(*this) & color & hueTolerance & noiseLevel &
-            harshness & transparency;
+        archive & boost::serialization::base_object<VideoEffect>(*this) &
+            color & hueTolerance & noiseLevel & harshness & transparency;
     }
 };
 
@@ -393,7 +393,8 @@ void build(nlohmann::json const & pattern, nlohmann::json & built)
         for (nlohmann::json const & value : pattern)
             build(value, built.emplace_back());
         break;
-    default: built = pattern;
+    default:
+        built = pattern;
     }
 }
 

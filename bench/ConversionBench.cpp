@@ -1,10 +1,10 @@
 // A conversion through the installed factory beside code that makes the same record by hand.
 
 #include <ConfInt/ImplNames.h>
-#include <effects/Effects.h>
 #include <EditorModel/EffectFactory.h>
-#include <Settings/SettingsComposition.h>
+#include <effects/Effects.h>
 #include <Settings/SettingsColor.h>
+#include <Settings/SettingsComposition.h>
 
 #include <benchmark/benchmark.h>
 
@@ -50,8 +50,8 @@ void convertChromaKeyFloorByHand(benchmark::State & state)
     Effect::ChromaKey const effect;
     for (auto _ : state) {
         auto settings = std::make_unique<Proc::SettingsEffectChromakey>();
-        settings->SetParams(effect.hueTolerance, effect.noiseLevel / 256.0, effect.harshness / 100.0,
-            effect.transparency / 100.0);
+        settings->SetParams(
+            effect.hueTolerance, effect.noiseLevel / 256.0, effect.harshness / 100.0, effect.transparency / 100.0);
         settings->red = static_cast<std::uint8_t>(effect.color >> 16);
         settings->green = static_cast<std::uint8_t>(effect.color >> 8);
         settings->blue = static_cast<std::uint8_t>(effect.color);

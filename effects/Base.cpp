@@ -13,14 +13,12 @@ QString empty()
 
 EffectDescriptor::EffectDescriptor()
     : Object(empty(), empty())
-{
-}
+{}
 
 EffectDescriptor::EffectDescriptor(QString const & effectId, QString const & group, Type effectType)
     : Object(effectId, group)
     , descriptorType(effectType)
-{
-}
+{}
 
 Type EffectDescriptor::type() const
 {
@@ -35,12 +33,10 @@ Impl EffectDescriptor::impl() const
 #define EFFECT_BASE(Class, itsType, itsImpl)                                                                           \
     Class::Class()                                                                                                     \
         : Object(empty(), empty())                                                                                     \
-    {                                                                                                                  \
-    }                                                                                                                  \
+    {}                                                                                                                 \
     Class::Class(QString const & effectId, QString const & group)                                                      \
         : Object(effectId, group)                                                                                      \
-    {                                                                                                                  \
-    }                                                                                                                  \
+    {}                                                                                                                 \
     Type Class::type() const                                                                                           \
     {                                                                                                                  \
         return itsType;                                                                                                \

@@ -3,9 +3,9 @@
 /// link in the archives' chain of classes.
 #pragma once
 
+#include <EditorModel/EffectObject.h>
 #include <effects/EffectClass.h>
 #include <effects/Export.h>
-#include <EditorModel/EffectObject.h>
 
 namespace Effect {
 

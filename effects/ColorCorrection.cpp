@@ -1,7 +1,7 @@
 #include <effects/ColorCorrection.h>
 
-#include <effects/Identity.h>
 #include <EditorModel/Fuzzy.h>
+#include <effects/Identity.h>
 
 namespace Effect {
 
@@ -25,12 +25,11 @@ EFFECT_SETTER(ManualEnhance, setTint, double, tint)
 
 bool ManualEnhance::operator==(ManualEnhance const & other) const
 {
-    return this == &other ||
-        (fuzzyEqual(brightness, other.brightness) && fuzzyEqual(contrast, other.contrast) &&
-            fuzzyEqual(highlights, other.highlights) && fuzzyEqual(shadows, other.shadows) &&
-            fuzzyEqual(hue, other.hue) && fuzzyEqual(temperature, other.temperature) &&
-            fuzzyEqual(tint, other.tint) && fuzzyEqual(saturation, other.saturation) &&
-            fuzzyEqual(gamma, other.gamma));
+    return this == &other || (fuzzyEqual(brightness, other.brightness) && fuzzyEqual(contrast, other.contrast) &&
+                                 fuzzyEqual(highlights, other.highlights) && fuzzyEqual(shadows, other.shadows) &&
+                                 fuzzyEqual(hue, other.hue) && fuzzyEqual(temperature, other.temperature) &&
+                                 fuzzyEqual(tint, other.tint) && fuzzyEqual(saturation, other.saturation) &&
+                                 fuzzyEqual(gamma, other.gamma));
 }
 
 } // namespace Effect

@@ -18,7 +18,10 @@ class IDeserializer;
 /// declares, with the class's `serialize` from `effects/archive/`.
 #define EFFECT_CLASS(Class)                                                                                            \
 public:                                                                                                                \
-    static char const * NameInArchive() { return "Effect::" #Class; }                                                  \
+    static char const * NameInArchive()                                                                                \
+    {                                                                                                                  \
+        return "Effect::" #Class;                                                                                      \
+    }                                                                                                                  \
     std::string GetNameInArchive() const override;                                                                     \
     void Serialize(Serialize::ISerializer & serializer) const override;                                                \
     void Deserialize(Serialize::IDeserializer & deserializer) override;                                                \

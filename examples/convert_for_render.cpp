@@ -22,11 +22,10 @@ int main(int argc, char ** argv)
     for (int index = 1; index < argc; ++index) {
         std::ifstream file(argv[index], std::ios::binary);
         std::string const bytes{std::istreambuf_iterator<char>(file), {}};
-        auto const effect =
-            bytes[0] == '{' ? Effect::Archive::fromJson(bytes) : Effect::Archive::fromBinary(bytes);
+        auto const effect = bytes[0] == '{' ? Effect::Archive::fromJson(bytes) : Effect::Archive::fromBinary(bytes);
         auto const record = Effect::Factory::videoEffectSettings(*effect, params);
-        std::cout << effect->GetNameInArchive() << ": stage " << int(record.stageCode) << ", "
-                  << record.implementation << '\n';
+        std::cout << effect->GetNameInArchive() << ": stage " << int(record.stageCode) << ", " << record.implementation
+                  << '\n';
         for (auto const & settings : record.settings)
             std::cout << "  " << settings->GetClassId() << '\n';
     }

@@ -9,9 +9,9 @@
 #include <stdexcept>
 #include <string_view>
 
-#include <effects/Effects.h>
 #include <EditorModel/EffectArchive.h>
 #include <EditorSerialization/StreamSerializer.h>
+#include <effects/Effects.h>
 
 namespace {
 

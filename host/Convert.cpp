@@ -236,14 +236,14 @@ void addConvert(CLI::App & program)
     source->add_option("FILE", options->files, "Archives in either form, - for standard input");
     auto * const byClass =
         source->add_option("--class", options->className, "Default effect of this class, such as Effect::Blur");
-    source->add_flag("--batch", options->batch,
-        "Read a JSON request a line from standard input and answer each with a line");
+    source->add_flag(
+        "--batch", options->batch, "Read a JSON request a line from standard input and answer each with a line");
     command->add_option("--set", options->changes, "KEY=VALUE: change a field of the default effect")
         ->needs(byClass)
         ->check(checkPair);
     command
-        ->add_option("--resource", options->resources,
-            "NAME=FILE: make a file the resource of that name, whatever asks for it")
+        ->add_option(
+            "--resource", options->resources, "NAME=FILE: make a file the resource of that name, whatever asks for it")
         ->check(checkPair);
     command->add_option("--track", options->tracks, "ID=FILE: make a file the motion track of that identifier")
         ->check(checkPair);

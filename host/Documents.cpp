@@ -80,7 +80,8 @@ std::string baseOf(json const & document)
 {
     // No field's key begins as the archive names do.
     auto const key = document.get_ref<json::object_t const &>().lower_bound(classPrefix);
-    bool const isBase = key != document.get_ref<json::object_t const &>().end() && key->first.rfind(classPrefix, 0) == 0;
+    bool const isBase =
+        key != document.get_ref<json::object_t const &>().end() && key->first.rfind(classPrefix, 0) == 0;
     return isBase ? key->first : std::string();
 }
 

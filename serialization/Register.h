@@ -7,11 +7,11 @@
 
 #include <boost/serialization/export.hpp>
 
-#include <effects/Base.h>
-#include <effects/ClassList.h>
 #include <EditorSerialization/BinaryArchive.h>
 #include <EditorSerialization/JsonArchive.h>
 #include <EditorSerialization/ObjectTracker.h>
+#include <effects/Base.h>
+#include <effects/ClassList.h>
 
 namespace Effect::Registration {
 
@@ -30,8 +30,7 @@ template <class Class> void registerCasts()
 /// or the framework would take it for a class without one.
 #define EFFECT_KEY(Class)                                                                                              \
     template <> struct boost::serialization::guid_defined<Effect::Class> : boost::mpl::true_                           \
-    {                                                                                                                  \
-    };                                                                                                                 \
+    {};                                                                                                                \
     template <> struct boost::serialization::ext::guid_impl<Effect::Class>                                             \
     {                                                                                                                  \
         static char const * call() { return Effect::Class::NameInArchive(); }                                          \

@@ -1,9 +1,9 @@
 #include <utils/EffectUtils.h>
 
-#include <utils/CollectionNames.h>
 #include <EditorModel/CollectionProvider.h>
 #include <effects/PrivateIdentity.h>
 #include <FileSystem/FileSystem.h>
+#include <utils/CollectionNames.h>
 
 #include <QMap>
 

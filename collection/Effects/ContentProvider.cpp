@@ -2,7 +2,6 @@
 
 #include <utility>
 
-#include <utils/CollectionNames.h>
 #include <collection/Effects/SettingsFactory.h>
 #include <EditorModel/CollectionProvider.h>
 #include <EditorModel/UserBlob.h>
@@ -11,6 +10,7 @@
 #include <EditorUtil/CollectionHolder.h>
 #include <effects/Identity.h>
 #include <FileSystem/FileSystem.h>
+#include <utils/CollectionNames.h>
 #include <utils/EffectUtils.h>
 
 namespace Effect {

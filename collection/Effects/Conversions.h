@@ -32,8 +32,8 @@
 #include <Settings/SettingsDistortion.h>
 #include <Settings/SettingsLight.h>
 #include <Settings/SettingsMask.h>
-#include <Settings/SettingsShader.h>
 #include <Settings/SettingsRetro.h>
+#include <Settings/SettingsShader.h>
 #include <Settings/SettingsTransform.h>
 
 namespace Effect::Factory {

@@ -32,7 +32,8 @@ template <class Params> using Table = QMap<QString, Conversion<Params>>;
 /// that is seen at a glance.
 template <class Effect> Effect const & castTo(Object const & object)
 {
-    return typeid(object) == typeid(Effect) ? static_cast<Effect const &>(object) : dynamic_cast<Effect const &>(object);
+    return typeid(object) == typeid(Effect) ? static_cast<Effect const &>(object)
+                                            : dynamic_cast<Effect const &>(object);
 }
 
 /// Casts the effect to its class, which throws for another one, and makes the settings object that `fillAndWrap` turns
@@ -79,8 +80,7 @@ Conversion<AudioParams> audio(std::string const & implementation = Proc::ImplNam
     return row<Effect, Settings, AudioParams>(Stage::audio, implementation);
 }
 
-template <class Params>
-EffectSettings lookUp(Table<Params> const & table, Object const & effect, Params const & params)
+template <class Params> EffectSettings lookUp(Table<Params> const & table, Object const & effect, Params const & params)
 {
     if (dynamic_cast<EffectDescriptor const *>(&effect)) {
         LOG(ERROR) << "Settings requested for descriptor. Effect ID is " << effect.id.toStdString();

@@ -4,8 +4,8 @@
 
 #include <memory>
 
-#include <effects/Export.h>
 #include <EditorModel/EffectFactory.h>
+#include <effects/Export.h>
 
 namespace Effect::Factory {
 

@@ -9,8 +9,8 @@
 #include <boost/preprocessor/variadic/elem.hpp>
 #include <boost/preprocessor/variadic/to_seq.hpp>
 
-#include <effects/Base.h>
 #include <EditorSerialization/Traversal.h>
+#include <effects/Base.h>
 
 namespace Effect {
 

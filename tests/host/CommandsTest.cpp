@@ -15,9 +15,9 @@
 namespace {
 
 using nlohmann::json;
+using Testing::effectctl;
 using testing::HasSubstr;
 using testing::StartsWith;
-using Testing::effectctl;
 
 std::vector<json> batch(QByteArray const & requests)
 {
@@ -62,11 +62,10 @@ protected:
 
 TEST(Usage, WrongUsageEndsWithTwo)
 {
-    for (QStringList const & arguments :
-        {QStringList{}, QStringList{"nonsense"}, QStringList{"show"}, QStringList{"archive", "a.json"},
-            QStringList{"archive", "a.json", "b.txt"}, QStringList{"convert"},
-            QStringList{"convert", "--class", "Effect::Blur", "--set", "novalue"},
-            QStringList{"convert", "a.json", "--set", "a=1"}, QStringList{"list", "--nonsense"}}) {
+    for (QStringList const & arguments : {QStringList{}, QStringList{"nonsense"}, QStringList{"show"},
+             QStringList{"archive", "a.json"}, QStringList{"archive", "a.json", "b.txt"}, QStringList{"convert"},
+             QStringList{"convert", "--class", "Effect::Blur", "--set", "novalue"},
+             QStringList{"convert", "a.json", "--set", "a=1"}, QStringList{"list", "--nonsense"}}) {
         auto const run = effectctl(arguments);
         EXPECT_EQ(run.status, 2) << arguments.join(' ').toStdString();
         EXPECT_EQ(run.output, "");
@@ -98,9 +97,8 @@ TEST(ListCommand, DescribesEveryClass)
         {"tag", "effect_audio_noise_gate"}, {"defaultTag", "effect_audio_noise_gate"}, {"type", 1}, {"impl", 1},
         {"hasIntensity", true}, {"isTwoInput", false}, {"intensity", 0.94},
         {"processingSettingsId", "gk3gd6va-p9z5-8m7q-e46u-7qj5zt3zagnr"},
-        {"fields",
-            {{"detection", 0}, {"link", 0}, {"gainIn", 0.0}, {"threshold", -18.1}, {"ratio", 2.0}, {"attack", 20},
-                {"release", 250}, {"gainOut", 0.0}, {"knee", 2.828427125}}}};
+        {"fields", {{"detection", 0}, {"link", 0}, {"gainIn", 0.0}, {"threshold", -18.1}, {"ratio", 2.0},
+                       {"attack", 20}, {"release", 250}, {"gainOut", 0.0}, {"knee", 2.828427125}}}};
     EXPECT_EQ(gate, expected);
     EXPECT_EQ(byName.at("Effect::BackgroundRemove")["processingSettingsId"], ":256");
     EXPECT_EQ(byName.at("Effect::Frame")["base"], json());
@@ -146,8 +144,7 @@ TEST_F(FilesTest, BadFilesAreOneLineAndLoseNothing)
     auto const run = effectctl({"archive", bad, path("old.bin")});
     EXPECT_EQ(run.status, 1);
     EXPECT_EQ(run.output, "");
-    EXPECT_EQ(
-        run.errors, "effectctl: " + bad.toStdString() + ": an object is expected, found number, at /transform\n");
+    EXPECT_EQ(run.errors, "effectctl: " + bad.toStdString() + ": an object is expected, found number, at /transform\n");
     EXPECT_EQ(read("old.bin"), "old");
     EXPECT_THAT(effectctl({"show", path("gone.json")}).errors, HasSubstr("gone.json: "));
     EXPECT_THAT(effectctl({"show", write("text", "EEAR")}).errors, HasSubstr("input stream error"));
@@ -196,8 +193,8 @@ TEST(BatchConversion, ReplacesSingleKeys)
     json const reverb = answer(R"({"class": "Effect::AudioReverb", "audio": {"sampleRate": 22050}})");
     json const call = json::parse(R"(["SetSlpfFrequency", 11025])");
     EXPECT_THAT(reverb["settings"][0]["calls"], testing::Contains(call));
-    json const vertical = answer(
-        R"({"class": "Effect::FixVertVideo", "video": {"frameGeometry": [1080, 1920], "duration": 5}})");
+    json const vertical =
+        answer(R"({"class": "Effect::FixVertVideo", "video": {"frameGeometry": [1080, 1920], "duration": 5}})");
     EXPECT_EQ(vertical["settings"][0]["fields"]["geometry"], json::parse("[1080, 1920]"));
 }
 

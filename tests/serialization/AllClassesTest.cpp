@@ -52,7 +52,8 @@ protected:
 /// constructor fixes and which stays as it was `before`.
 template <class Class> json onTheInterfaces(json document, json const & before)
 {
-    if constexpr (std::is_base_of_v<Effect::EffectDescriptor, Class> && !std::is_same_v<Effect::EffectDescriptor, Class>) {
+    if constexpr (std::is_base_of_v<Effect::EffectDescriptor, Class> &&
+                  !std::is_same_v<Effect::EffectDescriptor, Class>) {
         bool const hasHolderBetween = document.contains("Effect::EffectsHolder");
         json & level = hasHolderBetween ? document["Effect::EffectsHolder"] : document;
         json const & levelBefore = hasHolderBetween ? before["Effect::EffectsHolder"] : before;
@@ -254,8 +255,8 @@ TYPED_TEST(AllClassesTest, IsWalkedByTheTracker)
 
     Serialize::ObjectTracker byReference;
     byReference << *this->first;
-    EXPECT_EQ(byReference.entries().at(dynamic_cast<void const *>(pointer)).kind,
-        Serialize::ObjectTracker::Kind::Reference);
+    EXPECT_EQ(
+        byReference.entries().at(dynamic_cast<void const *>(pointer)).kind, Serialize::ObjectTracker::Kind::Reference);
 }
 
 TEST(ClassList, NamesEveryRegisteredClass)

@@ -108,8 +108,8 @@ std::vector<Golden> goldens()
     return goldens;
 }
 
-INSTANTIATE_TEST_SUITE_P(EveryClass, GoldenTest, testing::ValuesIn(goldens()),
-    [](testing::TestParamInfo<Golden> const & golden) {
+INSTANTIATE_TEST_SUITE_P(
+    EveryClass, GoldenTest, testing::ValuesIn(goldens()), [](testing::TestParamInfo<Golden> const & golden) {
         std::string name = fileName(golden.param);
         for (char & letter : name)
             letter = letter == '.' ? '_' : letter;

@@ -96,7 +96,8 @@ TEST(Includes, PlatformLibrariesAreReachedByTheirNameAlone)
     // A path through platform/ would bypass the targets, and with them a host's own libraries.
     for (std::string const & folder : productFolders)
         for (Include const & include : includesBelow(folder))
-            EXPECT_THAT(include.target, testing::Not(testing::HasSubstr("platform/"))) << testing::PrintToString(include);
+            EXPECT_THAT(include.target, testing::Not(testing::HasSubstr("platform/")))
+                << testing::PrintToString(include);
 }
 
 TEST(Includes, PlatformLibrariesFormNoCircle)

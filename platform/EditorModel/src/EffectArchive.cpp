@@ -86,8 +86,7 @@ std::unique_ptr<Object> fromBinary(std::string_view bytes)
     std::unique_ptr<Object> effect;
     archive >> effect;
     if (!reader.atEnd())
-        throw Serialize::ArchiveError(
-            Serialize::ArchiveError::other_exception, "the archive goes on after the effect");
+        throw Serialize::ArchiveError(Serialize::ArchiveError::other_exception, "the archive goes on after the effect");
     return notNull(std::move(effect));
 }
 

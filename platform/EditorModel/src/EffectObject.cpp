@@ -18,8 +18,7 @@ namespace Effect {
 Object::Object(QString const & effectId, QString const & group)
     : id(effectId)
     , groupId(group)
-{
-}
+{}
 
 Object::~Object() = default;
 

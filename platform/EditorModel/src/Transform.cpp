@@ -16,8 +16,7 @@ Transform::Transform() = default;
 Transform::Transform(
     double m11, double m12, double m21, double m22, double m13, double m23, double m31, double m32, double m33)
     : m_entries{m11, m12, m13, m21, m22, m23, m31, m32, m33}
-{
-}
+{}
 
 Transform::~Transform() = default;
 
@@ -48,8 +47,7 @@ Range::Range() = default;
 Range::Range(MTime start, MTime length)
     : m_start(start)
     , m_length(length)
-{
-}
+{}
 
 Range::~Range() = default;
 

@@ -62,8 +62,7 @@ BinaryOArchive::BinaryOArchive(std::streambuf & stream, unsigned flags)
 
 BinaryOArchive::BinaryOArchive(std::ostream & stream, unsigned flags)
     : BinaryOArchive(buffer(stream), flags)
-{
-}
+{}
 
 BinaryOArchive::~BinaryOArchive() = default;
 
@@ -169,8 +168,7 @@ BinaryIArchive::BinaryIArchive(std::streambuf & stream, unsigned flags)
 
 BinaryIArchive::BinaryIArchive(std::istream & stream, unsigned flags)
     : BinaryIArchive(buffer(stream), flags)
-{
-}
+{}
 
 BinaryIArchive::~BinaryIArchive() = default;
 
@@ -229,8 +227,8 @@ BinaryIArchive::Loaded BinaryIArchive::loadPointed()
 
     Loaded loaded{Registry::create(type->name), nullptr};
     if (!loaded.object)
-        throw ArchiveError(ArchiveError::unregistered_class,
-            "unregistered class - \"" + type->name + "\" cannot be made by name");
+        throw ArchiveError(
+            ArchiveError::unregistered_class, "unregistered class - \"" + type->name + "\" cannot be made by name");
     DepthGuard const guard(m_depth, [this](std::string const & problem) { m_bytes.fail(problem); });
     type->serializer->load_object_data(*this, dynamic_cast<void *>(loaded.object.get()), type->version);
     if (type->tracked)

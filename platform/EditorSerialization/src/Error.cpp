@@ -11,8 +11,7 @@ ISerializable::~ISerializable() = default;
 ArchiveError::ArchiveError(exception_code errorCode, std::string text)
     : archive_exception(errorCode)
     , m_text(std::move(text))
-{
-}
+{}
 
 ArchiveError::ArchiveError(ArchiveError const &) noexcept = default;
 
@@ -25,8 +24,7 @@ char const * ArchiveError::what() const noexcept
 
 DepthGuard::DepthGuard(int & depth)
     : DepthGuard(depth, [](std::string const & text) { throw ArchiveError(ArchiveError::other_exception, text); })
-{
-}
+{}
 
 std::string DepthGuard::tooDeep()
 {

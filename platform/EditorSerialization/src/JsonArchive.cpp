@@ -158,8 +158,7 @@ std::optional<std::int64_t> getReferenceObjectId(json const & value)
 
 oarchive::oarchive(json & document)
     : m_stack{&document}
-{
-}
+{}
 
 oarchive::~oarchive() = default;
 
@@ -187,8 +186,8 @@ void oarchive::savePointed(void const * object, Serialize::Detail::OutputClass c
 void oarchive::saveData(void const * object, Serialize::Detail::OutputClass const & type)
 {
     if (!type.name)
-        throw boost::archive::archive_exception(boost::archive::archive_exception::unregistered_class,
-            type.serializer->get_eti().get_debug_info());
+        throw boost::archive::archive_exception(
+            boost::archive::archive_exception::unregistered_class, type.serializer->get_eti().get_debug_info());
     head()[s_meta][s_class_name] = type.name;
     type.serializer->save_object_data(*this, object);
 }

@@ -43,9 +43,9 @@ template <class Integer> void loadInteger(json const & value, Integer & number)
         failType(value, "an integer");
     using Limits = std::numeric_limits<Integer>;
     bool const fits = value.is_number_unsigned()
-        ? value.get<std::uint64_t>() <= static_cast<std::uint64_t>(Limits::max())
-        : value.get<std::int64_t>() >= std::int64_t(Limits::min()) &&
-            value.get<std::int64_t>() <= std::int64_t(Limits::max());
+                          ? value.get<std::uint64_t>() <= static_cast<std::uint64_t>(Limits::max())
+                          : value.get<std::int64_t>() >= std::int64_t(Limits::min()) &&
+                                value.get<std::int64_t>() <= std::int64_t(Limits::max());
     if (!fits)
         throw ArchiveError(ArchiveError::other_exception, "the number " + value.dump() + " is out of range");
     number = value.get<Integer>();
@@ -79,9 +79,10 @@ bool isUtf8(std::string const & text)
         unsigned char const lead = *bytes++;
         if (lead < 0x80)
             continue;
-        int const more = lead >= 0xC2 && lead <= 0xDF ? 1 : lead >= 0xE0 && lead <= 0xEF ? 2
-            : lead >= 0xF0 && lead <= 0xF4                                              ? 3
-                                                                                        : 0;
+        int const more = lead >= 0xC2 && lead <= 0xDF   ? 1
+                         : lead >= 0xE0 && lead <= 0xEF ? 2
+                         : lead >= 0xF0 && lead <= 0xF4 ? 3
+                                                        : 0;
         if (more == 0 || end - bytes < more)
             return false;
         unsigned char const least = lead == 0xE0 ? 0xA0 : lead == 0xF0 ? 0x90 : 0x80;
@@ -115,7 +116,8 @@ void save(json & value, std::string const & text)
     if (isUtf8(text))
         value = text;
     else
-        value = json{{bytesKey, QByteArray::fromRawData(text.data(), static_cast<int>(text.size())).toBase64().toStdString()}};
+        value = json{
+            {bytesKey, QByteArray::fromRawData(text.data(), static_cast<int>(text.size())).toBase64().toStdString()}};
 }
 
 void save(json & value, QString const & text)

@@ -16,8 +16,7 @@ struct ObjectStorage::State
 
 ObjectStorage::ObjectStorage()
     : m_state(std::make_unique<State>())
-{
-}
+{}
 
 ObjectStorage::~ObjectStorage()
 {

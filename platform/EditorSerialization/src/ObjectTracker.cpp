@@ -71,8 +71,8 @@ void ObjectTracker::save_object(void const * object, boost::archive::detail::bas
             entry.kind = Kind::Reference;
         else if (entry.saved)
             throw std::runtime_error(entry.kind == Kind::Reference
-                    ? "Object adressed by reference was already serialized by reference"
-                    : "Object adressed by reference was already serialized by pointer");
+                                         ? "Object adressed by reference was already serialized by reference"
+                                         : "Object adressed by reference was already serialized by pointer");
     }
     walk(object, type);
 }

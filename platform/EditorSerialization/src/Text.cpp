@@ -29,7 +29,8 @@ void ByteWriter::write(QString const & text)
 
 void ByteWriter::fail()
 {
-    throw ArchiveError(ArchiveError::output_stream_error, "output stream error: the stream took fewer bytes than given");
+    throw ArchiveError(
+        ArchiveError::output_stream_error, "output stream error: the stream took fewer bytes than given");
 }
 
 void ByteReader::read(bool & value)
@@ -101,9 +102,9 @@ void ByteReader::fail(std::string const & problem) const
 
 void ByteReader::failShort(std::size_t missing) const
 {
-    throw ArchiveError(ArchiveError::input_stream_error,
-        "input stream error: the data ends at byte " + std::to_string(m_offset) + ", " + std::to_string(missing) +
-            (missing == 1 ? " byte" : " bytes") + " too early");
+    throw ArchiveError(ArchiveError::input_stream_error, "input stream error: the data ends at byte " +
+                                                             std::to_string(m_offset) + ", " + std::to_string(missing) +
+                                                             (missing == 1 ? " byte" : " bytes") + " too early");
 }
 
 } // namespace Serialize

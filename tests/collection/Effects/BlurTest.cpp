@@ -16,8 +16,8 @@ namespace {
 using namespace Effect;
 using Testing::convert;
 using testing::ElementsAre;
-using testing::IsEmpty;
 using Testing::expectConversion;
+using testing::IsEmpty;
 using Testing::settings;
 using Testing::writeImage;
 

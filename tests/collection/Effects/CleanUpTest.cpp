@@ -85,8 +85,8 @@ TEST_F(CleanUpConversion, DescriptorsAreRefused)
             EXPECT_THAT(converted.settings, IsEmpty());
             EXPECT_EQ(converted.stageCode, 0);
             EXPECT_EQ(converted.implementation, "");
-            EXPECT_THAT(converted.log,
-                ElementsAre(std::string("Settings requested for descriptor. Effect ID is ") + row.id));
+            EXPECT_THAT(
+                converted.log, ElementsAre(std::string("Settings requested for descriptor. Effect ID is ") + row.id));
         }
     }
 }

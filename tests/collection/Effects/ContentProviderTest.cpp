@@ -33,8 +33,8 @@ using namespace std::chrono_literals;
 using Effect::ContentProvider;
 using testing::ElementsAre;
 using testing::IsEmpty;
-using testing::SizeIs;
 using Testing::ManualStorage;
+using testing::SizeIs;
 
 /// The indices of the loads, in the order in which they are asked for.
 enum LoadIndex : std::size_t

@@ -13,8 +13,8 @@ namespace {
 using namespace Effect;
 using Testing::convert;
 using testing::ElementsAre;
-using testing::IsEmpty;
 using Testing::expectConversion;
+using testing::IsEmpty;
 using Testing::settings;
 
 class DistortionConversion : public Testing::ConversionTest

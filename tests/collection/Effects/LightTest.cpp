@@ -20,8 +20,8 @@ using namespace Effect;
 namespace Proc = Quoril::Proc;
 using Testing::convert;
 using testing::ElementsAre;
-using testing::IsEmpty;
 using Testing::expectConversion;
+using testing::IsEmpty;
 using Testing::settings;
 using Testing::writeImage;
 

@@ -33,8 +33,7 @@ TEST(SettingsFactoryInstallation, LastsAsLongAsTheFactory)
 TEST_F(SettingsFactoryTest, DescriptorsAreRefused)
 {
     EffectDescriptor const effect(Id::Normalize, Id::Normalize, Type::Audio);
-    char const * const message =
-        "Settings requested for descriptor. Effect ID is 6c7a85ac-2a34-44a0-bd07-504f95370354";
+    char const * const message = "Settings requested for descriptor. Effect ID is 6c7a85ac-2a34-44a0-bd07-504f95370354";
     EXPECT_THAT(convert(effect, Factory::AudioParams()).log, ElementsAre(message));
     EXPECT_THAT(convert(effect, Factory::VideoParams()).log, ElementsAre(message));
     EXPECT_THAT(convert(effect).settings, IsEmpty());
@@ -54,8 +53,7 @@ TEST_F(SettingsFactoryTest, EachKindHasItsOwnTable)
 TEST_F(SettingsFactoryTest, UnknownIdentifiersAreReported)
 {
     VideoEffect const effect(QString::fromUtf8("Wärme"), QString());
-    EXPECT_THAT(
-        convert(effect).log, ElementsAre("Couldn't provide settings for unknown effect. Effect ID is Wärme"));
+    EXPECT_THAT(convert(effect).log, ElementsAre("Couldn't provide settings for unknown effect. Effect ID is Wärme"));
 }
 
 TEST_F(SettingsFactoryTest, AWrongClassBehindAnIdentifierIsABadCast)

@@ -133,10 +133,10 @@ TEST(BinaryArchive, LaysPointersOutAsTheFrameworkDoes)
     ISerializable const * const pointer = &leaf;
     ISerializable const * const null = nullptr;
     std::string const name = "Host::Leaf";
-    std::string const values = bytes(std::int32_t(0), std::uint64_t(0), std::int64_t(0), 0.0, std::uint32_t(0),
-        std::int32_t(0), false);
+    std::string const values =
+        bytes(std::int32_t(0), std::uint64_t(0), std::int64_t(0), 0.0, std::uint32_t(0), std::int32_t(0), false);
     std::string const first = bytes(std::int16_t(0), std::uint64_t(name.size())) + name +
-        bytes(true, std::uint32_t(0), std::uint32_t(0)) + values;
+                              bytes(true, std::uint32_t(0), std::uint32_t(0)) + values;
     EXPECT_EQ(written(pointer), header + first);
     // A null pointer, then a reference to the first object.
     EXPECT_EQ(written(pointer, null, pointer),
@@ -256,24 +256,30 @@ TEST(BinaryArchive, HugeLengthsCostNothing)
     // A text, bytes and a list that claim 2^60: each ends where the stream does.
     std::uint64_t const huge = std::uint64_t(1) << 60;
     int const code = archive_exception::input_stream_error;
-    EXPECT_THAT(errorOf(bytes(huge), code, [](BinaryIArchive & archive) {
-        std::string text;
-        archive >> text;
-    }), HasSubstr("input stream error"));
-    EXPECT_THAT(errorOf(bytes(std::numeric_limits<std::int32_t>::max()), code, [](BinaryIArchive & archive) {
-        QString text;
-        archive >> text;
-    }), HasSubstr("input stream error"));
+    EXPECT_THAT(errorOf(bytes(huge), code,
+                    [](BinaryIArchive & archive) {
+                        std::string text;
+                        archive >> text;
+                    }),
+        HasSubstr("input stream error"));
+    EXPECT_THAT(errorOf(bytes(std::numeric_limits<std::int32_t>::max()), code,
+                    [](BinaryIArchive & archive) {
+                        QString text;
+                        archive >> text;
+                    }),
+        HasSubstr("input stream error"));
     EXPECT_THAT(errorOf(bytes(true, std::uint32_t(0), std::uint32_t(0), huge, std::uint32_t(0)), code,
                     [](BinaryIArchive & archive) {
                         Branch branch;
                         archive >> branch;
                     }),
         HasSubstr("input stream error"));
-    EXPECT_THAT(errorOf(bytes(std::int32_t(-2)), archive_exception::other_exception, [](BinaryIArchive & archive) {
-        QString text;
-        archive >> text;
-    }), HasSubstr("a text has the length -2"));
+    EXPECT_THAT(errorOf(bytes(std::int32_t(-2)), archive_exception::other_exception,
+                    [](BinaryIArchive & archive) {
+                        QString text;
+                        archive >> text;
+                    }),
+        HasSubstr("a text has the length -2"));
 }
 
 TEST(BinaryArchive, WhatAReadCreatedIsReleasedWhenItFails)

@@ -107,8 +107,8 @@ TEST(JsonArchive, KeepsEveryTextWhole)
 {
     QString const clef = QString::fromUtf8("a\xF0\x9D\x84\x9E");
     EXPECT_EQ(saved(clef), u8"a\U0001D11E");
-    for (QString const & text : {QString("plain"), clef, QString(QChar(0xD834)), QString("x") + QChar(0xDD1E) + "y",
-             QString(QChar(0))})
+    for (QString const & text :
+        {QString("plain"), clef, QString(QChar(0xD834)), QString("x") + QChar(0xDD1E) + "y", QString(QChar(0))})
         EXPECT_EQ(roundTrip(text), text);
     EXPECT_EQ(saved(QString("x") + QChar(0xD834)), (json{{"$utf16", {0x78, 0xD834}}}));
     EXPECT_TRUE(roundTrip(QString()).isNull());
@@ -197,8 +197,8 @@ TEST(JsonArchive, PointersToNothingKnownAreRefused)
         "unregistered class - \"None\", at /");
     EXPECT_EQ(errorOf<Owner>(json::object()), "the object does not say its class, at /");
     EXPECT_EQ(errorOf<Owner>(1), "an object or null is expected, found number, at /");
-    EXPECT_EQ(errorOf<Node>({{"children", {nullptr, {{"$meta", {{"class", "X"}}}}}}},
-                  archive_exception::unregistered_class),
+    EXPECT_EQ(
+        errorOf<Node>({{"children", {nullptr, {{"$meta", {{"class", "X"}}}}}}}, archive_exception::unregistered_class),
         "unregistered class - \"X\", at /children/1");
     EXPECT_EQ(errorOf<std::unique_ptr<Node>>({{"$meta", leafMeta}}),
         "an object of the class Host::Leaf does not belong here, at /");
@@ -303,8 +303,8 @@ TEST(JsonArchive, ReferencesDoNotMultiplyWithoutEnd)
     json const leaf = numbered(30, {{"$meta", leafMeta}});
     json children = json::array({leaf});
     for (int id = 29; id >= 1; --id)
-        children.push_back(numbered(
-            id, {{"$meta", {{"class", "Host::Node"}}}, {"children", {reference(id + 1), reference(id + 1)}}}));
+        children.push_back(
+            numbered(id, {{"$meta", {{"class", "Host::Node"}}}, {"children", {reference(id + 1), reference(id + 1)}}}));
     json const document{{"$meta", {{"class", "Host::Node"}}}, {"children", children}};
     EXPECT_THAT(errorOf<Node>(document), HasSubstr("stand for too much"));
 }

@@ -17,10 +17,15 @@
 namespace Effect {
 
 /// What an effect works on.
-enum class Type : std::int32_t { Video = 0, Audio = 1 };
+enum class Type : std::int32_t
+{
+    Video = 0,
+    Audio = 1
+};
 
 /// How an effect is carried out.
-enum class Impl : std::int32_t {
+enum class Impl : std::int32_t
+{
     Descriptor = 0, ///< not by the render engine
     Effect = 1,
     Filter = 2
@@ -73,8 +78,7 @@ private:
 } // namespace Effect
 
 template <> struct boost::serialization::guid_defined<Effect::Object> : boost::mpl::true_
-{
-};
+{};
 template <> struct boost::serialization::ext::guid_impl<Effect::Object>
 {
     static char const * call() { return Effect::Object::NameInArchive(); }

@@ -16,7 +16,8 @@ class EDITORMODEL_EXPORT Payload : public Serialize::ISerializable
 {
 public:
     /// How the files behind a payload are brought when they are not there yet.
-    enum class DownloadResourceType : std::int32_t {
+    enum class DownloadResourceType : std::int32_t
+    {
         None = 0,  ///< there is nothing to bring
         Media = 1, ///< a media file
         Shader = 2 ///< a shader with the files beside it

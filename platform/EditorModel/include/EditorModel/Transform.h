@@ -26,7 +26,8 @@ public:
     Transform();
     /// The affine entries first: a scale of one half by 1 with a left shift of a quarter is
     /// (0.5, 0, 0, 1, 0, 0, -0.25, 0, 1).
-    Transform(double m11, double m12, double m21, double m22, double m13, double m23, double m31, double m32, double m33);
+    Transform(
+        double m11, double m12, double m21, double m22, double m13, double m23, double m31, double m32, double m33);
     Transform(Transform const &) = default;
     Transform(Transform &&) = default;
     Transform & operator=(Transform const &) = default;

@@ -34,8 +34,8 @@ namespace Serialize {
 /// Throws `boost::archive::archive_exception`: code 2 for an unregistered class, 10 for an unregistered cast, 13 when
 /// the stream takes fewer bytes than given.
 class EDITORSERIALIZATION_EXPORT BinaryOArchive
-    : public boost::archive::detail::common_oarchive<BinaryOArchive>
-    , public boost::archive::basic_binary_oprimitive<BinaryOArchive, char, std::char_traits<char>>
+    : public boost::archive::detail::common_oarchive<BinaryOArchive>,
+      public boost::archive::basic_binary_oprimitive<BinaryOArchive, char, std::char_traits<char>>
 {
     using Framework = boost::archive::detail::common_oarchive<BinaryOArchive>;
     using Primitive = boost::archive::basic_binary_oprimitive<BinaryOArchive, char, std::char_traits<char>>;
@@ -135,8 +135,8 @@ template <class T, class Loaded> T * castTo(Loaded & loaded, ByteReader const & 
 /// Throws `ArchiveError`: code 8 when the stream ends too early, 2 for a class that is not registered, and others
 /// with a text that says what is wrong and at which byte. The object being read keeps what was read so far.
 class EDITORSERIALIZATION_EXPORT BinaryIArchive
-    : public boost::archive::detail::common_iarchive<BinaryIArchive>
-    , public boost::archive::basic_binary_iprimitive<BinaryIArchive, char, std::char_traits<char>>
+    : public boost::archive::detail::common_iarchive<BinaryIArchive>,
+      public boost::archive::basic_binary_iprimitive<BinaryIArchive, char, std::char_traits<char>>
 {
     using Framework = boost::archive::detail::common_iarchive<BinaryIArchive>;
     using Primitive = boost::archive::basic_binary_iprimitive<BinaryIArchive, char, std::char_traits<char>>;

@@ -20,8 +20,7 @@ class EDITORSERIALIZATION_EXPORT ByteWriter
 public:
     explicit ByteWriter(std::streambuf & stream)
         : m_stream(stream)
-    {
-    }
+    {}
 
     void write(void const * bytes, std::size_t count)
     {
@@ -45,8 +44,7 @@ class EDITORSERIALIZATION_EXPORT ByteReader
 public:
     explicit ByteReader(std::streambuf & stream)
         : m_stream(stream)
-    {
-    }
+    {}
 
     void read(void * bytes, std::size_t count)
     {

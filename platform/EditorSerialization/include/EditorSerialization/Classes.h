@@ -96,9 +96,10 @@ private:
     OutputClass & canonical(boost::archive::detail::basic_oserializer const & given)
     {
         auto const * registered = boost::archive::detail::archive_serializer_map<Archive>::find(given.get_eti());
-        auto const * serializer = registered
-            ? &static_cast<boost::archive::detail::basic_pointer_oserializer const *>(registered)->get_basic_serializer()
-            : &given;
+        auto const * serializer =
+            registered ? &static_cast<boost::archive::detail::basic_pointer_oserializer const *>(registered)
+                              ->get_basic_serializer()
+                       : &given;
         if (serializer != &given)
             return of(*serializer);
         if (m_classes.size() > INT16_MAX)
@@ -107,7 +108,7 @@ private:
             static_cast<std::int16_t>(m_classes.size()), false, false, serializer->tracking(0)});
     }
 
-    std::deque<OutputClass> m_classes; // a deque, since its elements stay where they are
+    std::deque<OutputClass> m_classes;                       // a deque, since its elements stay where they are
     std::unordered_map<void const *, OutputClass *> m_known; // by serializer and by type information
 };
 
@@ -130,8 +131,7 @@ public:
         if (known != m_named.end())
             return known->second;
         auto const * type = boost::serialization::extended_type_info::find(name.c_str());
-        auto const * registered =
-            type ? boost::archive::detail::archive_serializer_map<Archive>::find(*type) : nullptr;
+        auto const * registered = type ? boost::archive::detail::archive_serializer_map<Archive>::find(*type) : nullptr;
         if (!registered)
             return nullptr;
         InputClass & found = of(
@@ -144,7 +144,7 @@ public:
     InputClass * numbered(std::int16_t id)
     {
         return id >= 0 && static_cast<std::size_t>(id) < m_classes.size() ? &m_classes[static_cast<std::size_t>(id)]
-                                                                           : nullptr;
+                                                                          : nullptr;
     }
 
     std::size_t size() const { return m_classes.size(); }
@@ -153,16 +153,17 @@ private:
     InputClass & canonical(boost::archive::detail::basic_iserializer const & given)
     {
         auto const * registered = boost::archive::detail::archive_serializer_map<Archive>::find(given.get_eti());
-        auto const * serializer = registered
-            ? &static_cast<boost::archive::detail::basic_pointer_iserializer const *>(registered)->get_basic_serializer()
-            : &given;
+        auto const * serializer =
+            registered ? &static_cast<boost::archive::detail::basic_pointer_iserializer const *>(registered)
+                              ->get_basic_serializer()
+                       : &given;
         if (serializer != &given)
             return of(*serializer);
         if (m_classes.size() > INT16_MAX)
             throw ArchiveError(ArchiveError::other_exception, "an archive holds at most 32768 classes");
         char const * key = serializer->get_eti().get_key();
-        return m_classes.emplace_back(
-            InputClass{serializer, key ? key : "", static_cast<std::int16_t>(m_classes.size()), false, false, false, 0});
+        return m_classes.emplace_back(InputClass{
+            serializer, key ? key : "", static_cast<std::int16_t>(m_classes.size()), false, false, false, 0});
     }
 
     std::deque<InputClass> m_classes;

@@ -9,7 +9,6 @@
 
 #include <EditorSerialization/Export.h>
 
-
 namespace Serialize {
 
 class ISerializer;
@@ -37,7 +36,10 @@ protected:
 /// Lets the archives reach a class's private `serialize`; every class befriends it.
 struct Access
 {
-    template <class Archive, class T> static void serialize(Archive & archive, T & object) { object.serialize(archive); }
+    template <class Archive, class T> static void serialize(Archive & archive, T & object)
+    {
+        object.serialize(archive);
+    }
 
     /// Whether `T` declares a `serialize` of its own. One that it merely inherits would archive the base alone.
     template <class T, class Archive> static constexpr bool hasOwnSerialize()

@@ -231,8 +231,8 @@ private:
     template <class T, std::size_t N> void load_override(std::array<T, N> & values)
     {
         if (arraySize() != N)
-            fail("an array of " + std::to_string(N) + " items is expected, this one has " +
-                std::to_string(arraySize()));
+            fail(
+                "an array of " + std::to_string(N) + " items is expected, this one has " + std::to_string(arraySize()));
         for (std::size_t index = 0; index < N; ++index)
             loadElement(index, values[index]);
     }
@@ -278,9 +278,8 @@ private:
     void follow(Level & level, std::int64_t id);
     nlohmann::json const * className() const;
     std::string where() const;
-    [[noreturn]] void fail(std::string const & problem,
-        boost::archive::archive_exception::exception_code code =
-            boost::archive::archive_exception::other_exception) const;
+    [[noreturn]] void fail(std::string const & problem, boost::archive::archive_exception::exception_code code =
+                                                            boost::archive::archive_exception::other_exception) const;
 
     nlohmann::json const * m_document;
     std::vector<Level> m_stack; // the top is the head

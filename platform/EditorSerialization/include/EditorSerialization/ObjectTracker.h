@@ -29,7 +29,8 @@ class EDITORSERIALIZATION_EXPORT ObjectTracker : public boost::archive::detail::
     friend class boost::archive::save_access;
 
 public:
-    enum class Kind : std::int32_t {
+    enum class Kind : std::int32_t
+    {
         Unknown = 0,
         Reference = 1,    ///< reached by reference
         OwnedPointer = 2, ///< reached by pointer; the entry can release the object

@@ -12,9 +12,7 @@ namespace Serialize {
 
 /// Writes objects to a stream. Throws an `ArchiveError` when the stream takes too little (code 13) and when objects
 /// are nested deeper than `maxObjectDepth`.
-class EDITORSERIALIZATION_EXPORT StreamSerializer final
-    : public ISerializer
-    , private IValueWriter
+class EDITORSERIALIZATION_EXPORT StreamSerializer final : public ISerializer, private IValueWriter
 {
 public:
     explicit StreamSerializer(std::streambuf & stream);
@@ -47,9 +45,7 @@ private:
 
 /// Reads objects from a stream that a `StreamSerializer` wrote, or that pretends to be one. Throws an `ArchiveError`
 /// that says what was expected and at which byte: code 8 when the stream ends too early, 2 for an unknown class.
-class EDITORSERIALIZATION_EXPORT StreamDeserializer final
-    : public IDeserializer
-    , private IValueReader
+class EDITORSERIALIZATION_EXPORT StreamDeserializer final : public IDeserializer, private IValueReader
 {
 public:
     explicit StreamDeserializer(std::streambuf & stream);

@@ -29,7 +29,8 @@ template <class T> Field<T> field(char const * key, T & value)
 }
 
 template <class Archive>
-inline constexpr bool isInterface = std::is_base_of_v<ISerializer, Archive> || std::is_base_of_v<IDeserializer, Archive>;
+inline constexpr bool isInterface =
+    std::is_base_of_v<ISerializer, Archive> || std::is_base_of_v<IDeserializer, Archive>;
 
 /// Whether `Archive` writes; the interfaces and the archives alike.
 template <class Archive> constexpr bool isWriter()
@@ -43,29 +44,21 @@ template <class Archive> constexpr bool isWriter()
 namespace Detail {
 
 template <class T> struct IsDeque : std::false_type
-{
-};
+{};
 template <class T> struct IsDeque<std::deque<T>> : std::true_type
-{
-};
+{};
 template <class T> struct IsOptional : std::false_type
-{
-};
+{};
 template <class T> struct IsOptional<std::optional<T>> : std::true_type
-{
-};
+{};
 template <class T> struct IsArray : std::false_type
-{
-};
+{};
 template <class T, std::size_t N> struct IsArray<std::array<T, N>> : std::true_type
-{
-};
+{};
 template <class T> struct IsOwningPointer : std::false_type
-{
-};
+{};
 template <class T> struct IsOwningPointer<std::unique_ptr<T>> : std::true_type
-{
-};
+{};
 
 template <class T> void writeContent(ISerializer & serializer, T const & value)
 {
@@ -117,9 +110,9 @@ template <class T> void readContent(IDeserializer & deserializer, T & value)
         std::int32_t count = 0;
         values.beginArray(count);
         if (count != static_cast<std::int32_t>(value.size()))
-            throw ArchiveError(ArchiveError::other_exception,
-                "an array has " + std::to_string(count) + " items where " + std::to_string(value.size()) +
-                    " are expected");
+            throw ArchiveError(ArchiveError::other_exception, "an array has " + std::to_string(count) +
+                                                                  " items where " + std::to_string(value.size()) +
+                                                                  " are expected");
         std::int32_t number = 0;
         for (auto & element : value) {
             values.beginItem(++number);

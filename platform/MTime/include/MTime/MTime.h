@@ -16,8 +16,7 @@ public:
     constexpr MTime() = default; ///< zero
     constexpr explicit MTime(std::int64_t units)
         : m_units(units)
-    {
-    }
+    {}
 
     constexpr std::int64_t units() const { return m_units; }
     constexpr double seconds() const { return static_cast<double>(m_units) / static_cast<double>(unitsPerSecond); }

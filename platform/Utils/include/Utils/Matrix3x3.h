@@ -15,10 +15,10 @@ class Matrix3x3
 {
 public:
     constexpr Matrix3x3() = default;
-    constexpr Matrix3x3(double m0, double m1, double m2, double m3, double m4, double m5, double m6, double m7, double m8)
+    constexpr Matrix3x3(
+        double m0, double m1, double m2, double m3, double m4, double m5, double m6, double m7, double m8)
         : m_entries{m0, m1, m2, m3, m4, m5, m6, m7, m8}
-    {
-    }
+    {}
 
     /// Entry `index`, 0 to 8, row by row.
     constexpr double operator[](std::size_t index) const { return m_entries[index]; }
