@@ -47,7 +47,8 @@ protected:
             ->addEffect(nullptr)
             ->addEffect(std::make_unique<AudioCompressor>());
         storeItem(stock() + "/AudioEnhance", "voice", enhance);
-        storeItem(user() + "/Effects/ManualEnhance", "mine", ManualEnhance());
+        ManualEnhance mine;
+        storeItem(user() + "/Effects/ManualEnhance", "mine", *mine.setHue(0.5));
     }
 
     void write(QString const & path, QByteArray const & bytes) const
