@@ -1,6 +1,7 @@
 // A conversion through the installed factory beside code that makes the same record by hand.
 
 #include <ConfInt/ImplNames.h>
+#include <EditorModel/CollectionProvider.h>
 #include <EditorModel/EffectFactory.h>
 #include <effects/Effects.h>
 #include <Settings/SettingsColor.h>
@@ -12,9 +13,29 @@ namespace {
 
 namespace Proc = Quoril::Proc;
 
+/// The library at work, without a catalogue.
+class Library
+{
+public:
+    Library()
+    {
+        EditorCollection::CollectionProvider::setItemStorage(&m_storage);
+        m_provider = std::make_unique<Effect::ContentProvider>();
+    }
+    ~Library()
+    {
+        m_provider.reset();
+        EditorCollection::CollectionProvider::setItemStorage(nullptr);
+    }
+
+private:
+    EditorCollection::NullItemStorage m_storage;
+    std::unique_ptr<Effect::ContentProvider> m_provider;
+};
+
 void convertOpacity(benchmark::State & state)
 {
-    Effect::ContentProvider const provider;
+    Library const library;
     Effect::Opacity effect;
     effect.setOpacity(0.25);
     for (auto _ : state)
@@ -38,7 +59,7 @@ BENCHMARK(convertOpacityFloorByHand);
 
 void convertChromaKey(benchmark::State & state)
 {
-    Effect::ContentProvider const provider;
+    Library const library;
     Effect::ChromaKey const effect;
     for (auto _ : state)
         benchmark::DoNotOptimize(Effect::Factory::videoEffectSettings(effect, {}));
