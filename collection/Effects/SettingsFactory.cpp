@@ -25,7 +25,20 @@ EffectSettings makeEffectSettings(
 
 namespace {
 
-template <class Params> using Conversion = std::function<EffectSettings(Object const &, Params const &)>;
+/// How the effects of one identifier are converted.
+template <class Params> struct Conversion
+{
+    Conversion() = default;
+    template <class Function>
+    Conversion(Function function, std::type_info const * itsClass = nullptr)
+        : convert(std::move(function))
+        , effectClass(itsClass)
+    {}
+
+    std::function<EffectSettings(Object const &, Params const &)> convert;
+    std::type_info const * effectClass = nullptr; ///< null where the conversion does not say
+};
+
 template <class Params> using Table = QMap<QString, Conversion<Params>>;
 
 /// `dynamic_cast`, which throws for another class; nearly every object is of the very class that is asked for, and
@@ -40,9 +53,10 @@ template <class Effect> Effect const & castTo(Object const & object)
 /// into a record.
 template <class Effect, class Settings, class Params, class Lambda> Conversion<Params> wrap(Lambda fillAndWrap)
 {
-    return [fillAndWrap](Object const & object, Params const & params) {
-        return fillAndWrap(castTo<Effect>(object), std::make_unique<Settings>(), params);
-    };
+    return {[fillAndWrap](Object const & object, Params const & params) {
+                return fillAndWrap(castTo<Effect>(object), std::make_unique<Settings>(), params);
+            },
+        &typeid(Effect)};
 }
 
 /// A conversion that fills its settings object through the family's `fill`.
@@ -82,16 +96,18 @@ Conversion<AudioParams> audio(std::string const & implementation = Proc::ImplNam
 
 template <class Params> EffectSettings lookUp(Table<Params> const & table, Object const & effect, Params const & params)
 {
-    if (dynamic_cast<EffectDescriptor const *>(&effect)) {
+    auto const found = table.constFind(effect.id);
+    // An object of the very class that is converted is no descriptor, which saves a search of its bases.
+    bool const isConverted = found != table.constEnd() && found->effectClass && *found->effectClass == typeid(effect);
+    if (!isConverted && dynamic_cast<EffectDescriptor const *>(&effect)) {
         LOG(ERROR) << "Settings requested for descriptor. Effect ID is " << effect.id.toStdString();
         return {};
     }
-    auto const found = table.constFind(effect.id);
     if (found == table.constEnd()) {
         LOG(ERROR) << "Couldn't provide settings for unknown effect. Effect ID is " << effect.id.toStdString();
         return {};
     }
-    EffectSettings record = (*found)(effect, params);
+    EffectSettings record = found->convert(effect, params);
     if (!record.settings.empty())
         return record;
     LOG(ERROR) << "Couldn't provide settings for effect. Effect ID is " << effect.id.toStdString();
