@@ -87,6 +87,8 @@ target_link_libraries(EditorEffects
   PRIVATE
     Editor::ConfInt Editor::Utils Editor::ParserLUT Editor::EditorSettings Editor::EditorExternalResourses
     Editor::FileSystem glog::glog)
+target_link_options(EditorEffects PRIVATE "LINKER:--version-script=${PROJECT_SOURCE_DIR}/cmake/exports.map")
 set_target_properties(EditorEffects PROPERTIES
+  LINK_DEPENDS "${PROJECT_SOURCE_DIR}/cmake/exports.map"
   VERSION ${PROJECT_VERSION}
   SOVERSION ${PROJECT_VERSION_MAJOR})

@@ -8,6 +8,7 @@
 
 #include <EditorSerialization/ISerializable.h>
 #include <EditorSerialization/Registry.h>
+#include <effects/Export.h>
 
 namespace Serialize {
 class ISerializer;
@@ -29,8 +30,8 @@ public:                                                                         
 private:                                                                                                               \
     friend Serialize::Access;                                                                                          \
     friend boost::serialization::access;                                                                               \
-    struct Creator;                                                                                                    \
-    static Serialize::Registrator const s_registrator;                                                                 \
+    struct EFFECTS_HIDDEN Creator;                                                                                     \
+    EFFECTS_HIDDEN static Serialize::Registrator const s_registrator;                                                  \
     template <class Archive> void serialize(Archive & archive);                                                        \
                                                                                                                        \
 public:
