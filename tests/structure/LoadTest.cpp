@@ -1,19 +1,62 @@
-// This program has nothing of the library, neither linked nor defined: it loads it, as a plug-in host would.
+// This program has nothing of the library, neither linked nor defined, and nothing of what the library links: it loads
+// it as a plug-in host would.
+
+#include <string>
+#include <vector>
 
 #include <dlfcn.h>
+#include <link.h>
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 namespace {
 
-TEST(EditorEffects, LoadsWithEveryReferenceResolved)
+using testing::Contains;
+using testing::HasSubstr;
+using testing::Not;
+
+/// The paths of the libraries that are in the process.
+std::vector<std::string> loadedLibraries()
 {
-    void * const library = dlopen(EDITOREFFECTS_LIBRARY, RTLD_NOW | RTLD_LOCAL);
-    ASSERT_NE(library, nullptr) << dlerror();
-    // The type information by which a host's ColorMixField is known, and no class behind it.
-    EXPECT_NE(dlsym(library, "_ZTIN6Effect13ColorMixFieldE"), nullptr);
-    EXPECT_EQ(dlsym(library, "_ZTVN6Effect13ColorMixFieldE"), nullptr);
-    EXPECT_EQ(dlclose(library), 0);
+    std::vector<std::string> paths;
+    dl_iterate_phdr(
+        [](dl_phdr_info * info, std::size_t, void * list) {
+            static_cast<std::vector<std::string> *>(list)->emplace_back(info->dlpi_name);
+            return 0;
+        },
+        &paths);
+    return paths;
+}
+
+TEST(Load, LibraryLoadsUnloadsAndLoadsAgainWithEveryReferenceResolved)
+{
+    for (char const * const name : {"libQt5", "libglog", "libboost", "libEditor"})
+        ASSERT_THAT(loadedLibraries(), Not(Contains(HasSubstr(name))));
+    for (int round = 1; round <= 2; ++round) {
+        void * const library = dlopen(EDITOREFFECTS_LIBRARY, RTLD_NOW | RTLD_LOCAL);
+        ASSERT_NE(library, nullptr) << dlerror() << " in round " << round;
+        // The type information by which a host's ColorMixField is known, and no class behind it.
+        EXPECT_NE(dlsym(library, "_ZTIN6Effect13ColorMixFieldE"), nullptr);
+        EXPECT_EQ(dlsym(library, "_ZTVN6Effect13ColorMixFieldE"), nullptr);
+        ASSERT_EQ(dlclose(library), 0) << dlerror();
+        // It has gone, and is not merely closed.
+        EXPECT_THAT(loadedLibraries(), Not(Contains(HasSubstr("libEditorEffects")))) << "in round " << round;
+    }
+}
+
+TEST(Load, PluginThatUsesTheLibraryFindsEveryEffectEachTime)
+{
+    constexpr int effects = 84; // the eighty and their four bases
+    for (int round = 1; round <= 2; ++round) {
+        void * const plugin = dlopen(EDITOREFFECTS_PLUGIN, RTLD_NOW | RTLD_LOCAL);
+        ASSERT_NE(plugin, nullptr) << dlerror() << " in round " << round;
+        auto const archiveEveryEffect = reinterpret_cast<int (*)()>(dlsym(plugin, "archiveEveryEffect"));
+        ASSERT_NE(archiveEveryEffect, nullptr) << dlerror();
+        EXPECT_EQ(archiveEveryEffect(), effects) << "in round " << round;
+        ASSERT_EQ(dlclose(plugin), 0) << dlerror();
+        EXPECT_THAT(loadedLibraries(), Not(Contains(HasSubstr("libEditorEffects")))) << "in round " << round;
+    }
 }
 
 } // namespace
