@@ -130,24 +130,28 @@
     X(AudioPitch)                                                                                                      \
     X(AudioRobot)
 
+/// Every family: `F(family, list, X)`, with the name that its sources have.
+#define EFFECTS_FAMILIES(F, X)                                                                                         \
+    F(Base, EFFECTS_BASES, X)                                                                                          \
+    F(ColorCorrection, EFFECTS_COLOR_CORRECTION, X)                                                                    \
+    F(Geometry, EFFECTS_GEOMETRY, X)                                                                                   \
+    F(Composition, EFFECTS_COMPOSITION, X)                                                                             \
+    F(Mask, EFFECTS_MASK, X)                                                                                           \
+    F(Shaders, EFFECTS_SHADERS, X)                                                                                     \
+    F(Equalizer, EFFECTS_EQUALIZER, X)                                                                                 \
+    F(Dynamics, EFFECTS_DYNAMICS, X)                                                                                   \
+    F(Modulation, EFFECTS_MODULATION, X)                                                                               \
+    F(CleanUp, EFFECTS_CLEAN_UP, X)                                                                                    \
+    F(Holder, EFFECTS_HOLDER, X)                                                                                       \
+    F(Mirroring, EFFECTS_MIRRORING, X)                                                                                 \
+    F(Blur, EFFECTS_BLUR, X)                                                                                           \
+    F(Distortion, EFFECTS_DISTORTION, X)                                                                               \
+    F(Artistic, EFFECTS_ARTISTIC, X)                                                                                   \
+    F(Retro, EFFECTS_RETRO, X)                                                                                         \
+    F(ColorFilters, EFFECTS_COLOR_FILTERS, X)                                                                          \
+    F(Light, EFFECTS_LIGHT, X)                                                                                         \
+    F(Voice, EFFECTS_VOICE, X)
+
 /// Everything, family by family.
-#define EFFECTS_ALL(X)                                                                                                 \
-    EFFECTS_BASES(X)                                                                                                   \
-    EFFECTS_COLOR_CORRECTION(X)                                                                                        \
-    EFFECTS_GEOMETRY(X)                                                                                                \
-    EFFECTS_COMPOSITION(X)                                                                                             \
-    EFFECTS_MASK(X)                                                                                                    \
-    EFFECTS_SHADERS(X)                                                                                                 \
-    EFFECTS_EQUALIZER(X)                                                                                               \
-    EFFECTS_DYNAMICS(X)                                                                                                \
-    EFFECTS_MODULATION(X)                                                                                              \
-    EFFECTS_CLEAN_UP(X)                                                                                                \
-    EFFECTS_HOLDER(X)                                                                                                  \
-    EFFECTS_MIRRORING(X)                                                                                               \
-    EFFECTS_BLUR(X)                                                                                                    \
-    EFFECTS_DISTORTION(X)                                                                                              \
-    EFFECTS_ARTISTIC(X)                                                                                                \
-    EFFECTS_RETRO(X)                                                                                                   \
-    EFFECTS_COLOR_FILTERS(X)                                                                                           \
-    EFFECTS_LIGHT(X)                                                                                                   \
-    EFFECTS_VOICE(X)
+#define EFFECTS_ALL(X) EFFECTS_FAMILIES(EFFECTS_OF_FAMILY, X)
+#define EFFECTS_OF_FAMILY(family, list, X) list(X)
