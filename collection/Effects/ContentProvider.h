@@ -28,7 +28,7 @@ public:
     ContentProvider & operator=(ContentProvider const &) = delete;
 
 private:
-    class Impl;
+    class EFFECTS_HIDDEN Impl;
     std::unique_ptr<Impl> m_impl;
 };
 
