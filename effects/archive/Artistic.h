@@ -5,16 +5,16 @@
 
 namespace Effect {
 
-EFFECT_VIDEO_FIELDS(OilPaint, radius)
-EFFECT_VIDEO_FIELDS(PopArt, preset)
-EFFECT_VIDEO_FIELDS(Posterize, colorsNumber)
-EFFECT_VIDEO_FIELDS(FindEdges, sensibility, type)
-EFFECT_VIDEO_FIELDS(HalfTone, bkgnd, dtclr, scale, angle)
-EFFECT_VIDEO_FIELDS(Mosaic, type, amountVer, amountHor)
-EFFECT_VIDEO_FIELDS(GlassMosaic, angle, curve, repeatsh, repeatsv)
-EFFECT_VIDEO_FIELDS(Erosion, type)
-EFFECT_VIDEO_FIELDS(Diffuse, level, prob)
-EFFECT_VIDEO_FIELDS(Stripes, count, deep)
-EFFECT_VIDEO_FIELDS(AddNoize, type)
+EFFECT_FIELDS(OilPaint, VideoEffect, radius)
+EFFECT_FIELDS(PopArt, VideoEffect, preset)
+EFFECT_FIELDS(Posterize, VideoEffect, colorsNumber)
+EFFECT_FIELDS(FindEdges, VideoEffect, sensibility, type)
+EFFECT_FIELDS(HalfTone, VideoEffect, bkgnd, dtclr, scale, angle)
+EFFECT_FIELDS(Mosaic, VideoEffect, type, amountVer, amountHor)
+EFFECT_FIELDS(GlassMosaic, VideoEffect, angle, curve, repeatsh, repeatsv)
+EFFECT_FIELDS(Erosion, VideoEffect, type)
+EFFECT_FIELDS(Diffuse, VideoEffect, level, prob)
+EFFECT_FIELDS(Stripes, VideoEffect, count, deep)
+EFFECT_FIELDS(AddNoize, VideoEffect, type)
 
 } // namespace Effect

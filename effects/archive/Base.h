@@ -2,6 +2,7 @@
 
 #include <typeinfo>
 
+#include <boost/preprocessor/comparison/greater.hpp>
 #include <boost/preprocessor/control/expr_if.hpp>
 #include <boost/preprocessor/punctuation/comma_if.hpp>
 #include <boost/preprocessor/seq/for_each_i.hpp>
@@ -11,6 +12,20 @@
 
 #include <EditorSerialization/Traversal.h>
 #include <effects/Base.h>
+
+/// Defines a class's `serialize`, from the class, its base and its own fields in the archives' order. The keys are the
+/// fields' names: one that is renamed is lost from saved projects.
+#define EFFECT_FIELDS(...)                                                                                             \
+    template <class Archive> void BOOST_PP_VARIADIC_ELEM(0, __VA_ARGS__)::serialize(Archive & archive)                 \
+    {                                                                                                                  \
+        fields<BOOST_PP_VARIADIC_ELEM(1, __VA_ARGS__)>(                                                                \
+            archive, *this BOOST_PP_SEQ_FOR_EACH_I(EFFECT_FIELD, , BOOST_PP_VARIADIC_TO_SEQ(__VA_ARGS__)));            \
+    }
+
+// The first two of the list are the class and its base.
+#define EFFECT_FIELD(r, data, index, name)                                                                             \
+    BOOST_PP_COMMA_IF(BOOST_PP_GREATER(index, 1))                                                                      \
+    BOOST_PP_EXPR_IF(BOOST_PP_GREATER(index, 1), field(BOOST_PP_STRINGIZE(name), name))
 
 namespace Effect {
 
@@ -26,32 +41,8 @@ template <class Archive> void EffectDescriptor::serialize(Archive & archive)
     fields<Object>(archive, *this, field("type", descriptorType));
 }
 
-template <class Archive> void VideoEffect::serialize(Archive & archive)
-{
-    fields<Object>(archive, *this);
-}
-
-template <class Archive> void AudioFilter::serialize(Archive & archive)
-{
-    fields<Object>(archive, *this);
-}
-
-template <class Archive> void AudioEffect::serialize(Archive & archive)
-{
-    fields<Object>(archive, *this);
-}
+EFFECT_FIELDS(VideoEffect, Object)
+EFFECT_FIELDS(AudioFilter, Object)
+EFFECT_FIELDS(AudioEffect, Object)
 
 } // namespace Effect
-
-/// Defines the `serialize` of a video effect, from the class and its own fields in the archives' order. The keys are
-/// the fields' names: one that is renamed is lost from saved projects.
-#define EFFECT_VIDEO_FIELDS(...)                                                                                       \
-    template <class Archive> void BOOST_PP_VARIADIC_ELEM(0, __VA_ARGS__)::serialize(Archive & archive)                 \
-    {                                                                                                                  \
-        fields<VideoEffect>(                                                                                           \
-            archive, *this BOOST_PP_SEQ_FOR_EACH_I(EFFECT_FIELD, , BOOST_PP_VARIADIC_TO_SEQ(__VA_ARGS__)));            \
-    }
-
-// The first of the list is the class.
-#define EFFECT_FIELD(r, data, index, name)                                                                             \
-    BOOST_PP_COMMA_IF(index) BOOST_PP_EXPR_IF(index, field(BOOST_PP_STRINGIZE(name), name))

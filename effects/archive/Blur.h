@@ -5,30 +5,10 @@
 
 namespace Effect {
 
-template <class Archive> void Blur::serialize(Archive & archive)
-{
-    fields<VideoEffect>(archive, *this);
-}
-
-template <class Archive> void BokehBlur::serialize(Archive & archive)
-{
-    fields<VideoEffect>(archive, *this, field("preset", preset));
-}
-
-template <class Archive> void MotionBlur::serialize(Archive & archive)
-{
-    fields<VideoEffect>(archive, *this);
-}
-
-template <class Archive> void TiltShift::serialize(Archive & archive)
-{
-    fields<VideoEffect>(archive, *this, field("a1", a1), field("b1", b1), field("c1", c1), field("a2", a2),
-        field("b2", b2), field("c2", c2), field("smns", smns));
-}
-
-template <class Archive> void Sharpen::serialize(Archive & archive)
-{
-    fields<VideoEffect>(archive, *this);
-}
+EFFECT_FIELDS(Blur, VideoEffect)
+EFFECT_FIELDS(BokehBlur, VideoEffect, preset)
+EFFECT_FIELDS(MotionBlur, VideoEffect)
+EFFECT_FIELDS(TiltShift, VideoEffect, a1, b1, c1, a2, b2, c2, smns)
+EFFECT_FIELDS(Sharpen, VideoEffect)
 
 } // namespace Effect

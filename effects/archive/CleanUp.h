@@ -5,30 +5,10 @@
 
 namespace Effect {
 
-template <class Archive> void AudioNoiseSuppress::serialize(Archive & archive)
-{
-    fields<AudioFilter>(archive, *this, field("levelPercent", levelPercent));
-}
-
-template <class Archive> void AudioMonoChannel::serialize(Archive & archive)
-{
-    fields<AudioFilter>(archive, *this);
-}
-
-template <class Archive> void AudioAiDenoise::serialize(Archive & archive)
-{
-    fields<EffectDescriptor>(archive, *this, field("aiModelPath", aiModelPath));
-}
-
-template <class Archive> void AudioNormalize::serialize(Archive & archive)
-{
-    fields<EffectDescriptor>(archive, *this);
-}
-
-template <class Archive> void BackgroundRemove::serialize(Archive & archive)
-{
-    fields<EffectDescriptor>(
-        archive, *this, field("downscalingFrameSize", downscalingFrameSize), field("aiModelPath", aiModelPath));
-}
+EFFECT_FIELDS(AudioNoiseSuppress, AudioFilter, levelPercent)
+EFFECT_FIELDS(AudioMonoChannel, AudioFilter)
+EFFECT_FIELDS(AudioAiDenoise, EffectDescriptor, aiModelPath)
+EFFECT_FIELDS(AudioNormalize, EffectDescriptor)
+EFFECT_FIELDS(BackgroundRemove, EffectDescriptor, downscalingFrameSize, aiModelPath)
 
 } // namespace Effect

@@ -5,31 +5,11 @@
 
 namespace Effect {
 
-template <class Archive> void AutoContrast::serialize(Archive & archive)
-{
-    fields<VideoEffect>(archive, *this);
-}
-
-template <class Archive> void AutoSaturation::serialize(Archive & archive)
-{
-    fields<VideoEffect>(archive, *this);
-}
-
-template <class Archive> void WhiteBalance::serialize(Archive & archive)
-{
-    fields<VideoEffect>(archive, *this, field("color", color));
-}
-
-template <class Archive> void MagicEnhance::serialize(Archive & archive)
-{
-    fields<VideoEffect>(archive, *this);
-}
-
-template <class Archive> void ManualEnhance::serialize(Archive & archive)
-{
-    fields<VideoEffect>(archive, *this, field("gamma", gamma), field("highlights", highlights),
-        field("shadows", shadows), field("brightness", brightness), field("contrast", contrast),
-        field("saturation", saturation), field("hue", hue), field("temperature", temperature), field("tint", tint));
-}
+EFFECT_FIELDS(AutoContrast, VideoEffect)
+EFFECT_FIELDS(AutoSaturation, VideoEffect)
+EFFECT_FIELDS(WhiteBalance, VideoEffect, color)
+EFFECT_FIELDS(MagicEnhance, VideoEffect)
+EFFECT_FIELDS(
+    ManualEnhance, VideoEffect, gamma, highlights, shadows, brightness, contrast, saturation, hue, temperature, tint)
 
 } // namespace Effect

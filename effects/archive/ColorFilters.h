@@ -5,11 +5,11 @@
 
 namespace Effect {
 
-EFFECT_VIDEO_FIELDS(ColorBrush, pType, angle, size, rough)
-EFFECT_VIDEO_FIELDS(ColorFilter, preset)
-EFFECT_VIDEO_FIELDS(ColorMixBurn)
-EFFECT_VIDEO_FIELDS(ColorSelect, color, hueTolerance, noiseLevel, harshness, transparency)
-EFFECT_VIDEO_FIELDS(ColorMixExchange, color)
-EFFECT_VIDEO_FIELDS(Invert)
+EFFECT_FIELDS(ColorBrush, VideoEffect, pType, angle, size, rough)
+EFFECT_FIELDS(ColorFilter, VideoEffect, preset)
+EFFECT_FIELDS(ColorMixBurn, VideoEffect)
+EFFECT_FIELDS(ColorSelect, VideoEffect, color, hueTolerance, noiseLevel, harshness, transparency)
+EFFECT_FIELDS(ColorMixExchange, VideoEffect, color)
+EFFECT_FIELDS(Invert, VideoEffect)
 
 } // namespace Effect

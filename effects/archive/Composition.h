@@ -5,41 +5,14 @@
 
 namespace Effect {
 
-template <class Archive> void PictureInPicture::serialize(Archive & archive)
-{
-    fields<VideoEffect>(archive, *this, field("transform", transform));
-}
-
-template <class Archive> void SideBySide::serialize(Archive & archive)
-{
-    fields<VideoEffect>(archive, *this, field("transformSrc", transformSrc), field("transformDst", transformDst));
-}
-
-template <class Archive> void Opacity::serialize(Archive & archive)
-{
-    fields<VideoEffect>(archive, *this, field("opacity", opacity));
-}
-
-template <class Archive> void ChromaKey::serialize(Archive & archive)
-{
-    fields<VideoEffect>(archive, *this, field("color", color), field("hueTolerance", hueTolerance),
-        field("noiseLevel", noiseLevel), field("harshness", harshness), field("transparency", transparency));
-}
+EFFECT_FIELDS(PictureInPicture, VideoEffect, transform)
+EFFECT_FIELDS(SideBySide, VideoEffect, transformSrc, transformDst)
+EFFECT_FIELDS(Opacity, VideoEffect, opacity)
+EFFECT_FIELDS(ChromaKey, VideoEffect, color, hueTolerance, noiseLevel, harshness, transparency)
 
 // The class between is no link in the archives.
-template <class Archive> void Overlay::serialize(Archive & archive)
-{
-    fields<VideoEffect>(archive, *this, field("mode", mode));
-}
-
-template <class Archive> void ColorBlending::serialize(Archive & archive)
-{
-    fields<VideoEffect>(archive, *this, field("mode", mode));
-}
-
-template <class Archive> void AlphaInserter::serialize(Archive & archive)
-{
-    fields<VideoEffect>(archive, *this);
-}
+EFFECT_FIELDS(Overlay, VideoEffect, mode)
+EFFECT_FIELDS(ColorBlending, VideoEffect, mode)
+EFFECT_FIELDS(AlphaInserter, VideoEffect)
 
 } // namespace Effect

@@ -10,11 +10,7 @@ template <class Archive> void AudioEqualizer::BandEq::serialize(Archive & archiv
     fields(archive, field("centralFrequency", centralFrequency), field("gain", gain));
 }
 
-template <class Archive> void AudioEqualizer::serialize(Archive & archive)
-{
-    // The bands come first, unlike in the class.
-    fields<AudioFilter>(
-        archive, *this, field("multiband", multiband), field("preset", preset), field("presetName", presetName));
-}
+// The bands come first, unlike in the class.
+EFFECT_FIELDS(AudioEqualizer, AudioFilter, multiband, preset, presetName)
 
 } // namespace Effect

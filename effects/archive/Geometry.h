@@ -5,19 +5,8 @@
 
 namespace Effect {
 
-template <class Archive> void Crop::serialize(Archive & archive)
-{
-    fields<VideoEffect>(archive, *this, field("transform", transform));
-}
-
-template <class Archive> void Transpose::serialize(Archive & archive)
-{
-    fields<VideoEffect>(archive, *this, field("angle", angle));
-}
-
-template <class Archive> void FixVertVideo::serialize(Archive & archive)
-{
-    fields<VideoEffect>(archive, *this);
-}
+EFFECT_FIELDS(Crop, VideoEffect, transform)
+EFFECT_FIELDS(Transpose, VideoEffect, angle)
+EFFECT_FIELDS(FixVertVideo, VideoEffect)
 
 } // namespace Effect

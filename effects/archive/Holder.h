@@ -5,14 +5,7 @@
 
 namespace Effect {
 
-template <class Archive> void EffectsHolder::serialize(Archive & archive)
-{
-    fields<EffectDescriptor>(archive, *this, field("effects", effects));
-}
-
-template <class Archive> void AudioEnhance::serialize(Archive & archive)
-{
-    fields<EffectsHolder>(archive, *this);
-}
+EFFECT_FIELDS(EffectsHolder, EffectDescriptor, effects)
+EFFECT_FIELDS(AudioEnhance, EffectsHolder)
 
 } // namespace Effect

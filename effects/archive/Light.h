@@ -5,24 +5,9 @@
 
 namespace Effect {
 
-template <class Archive> void FlyingObjects::serialize(Archive & archive)
-{
-    fields<VideoEffect>(archive, *this, field("preset", preset));
-}
-
-template <class Archive> void LensFlare::serialize(Archive & archive)
-{
-    fields<VideoEffect>(archive, *this, field("Presets", Presets));
-}
-
-template <class Archive> void LightLeaks::serialize(Archive & archive)
-{
-    fields<VideoEffect>(archive, *this, field("Presets", Presets));
-}
-
-template <class Archive> void VignetteFilter::serialize(Archive & archive)
-{
-    fields<VideoEffect>(archive, *this, field("preset", preset));
-}
+EFFECT_FIELDS(FlyingObjects, VideoEffect, preset)
+EFFECT_FIELDS(LensFlare, VideoEffect, Presets)
+EFFECT_FIELDS(LightLeaks, VideoEffect, Presets)
+EFFECT_FIELDS(VignetteFilter, VideoEffect, preset)
 
 } // namespace Effect

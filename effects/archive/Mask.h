@@ -11,22 +11,9 @@ template <class Archive> void Frame::serialize(Archive & archive)
         field("trackingId", trackingId), field("trackingTransform", trackingTransform));
 }
 
-template <class Archive> void FrameHighlight::serialize(Archive & archive)
-{
-    fields<Frame>(archive, *this);
-}
-
-template <class Archive> void FrameConceal::serialize(Archive & archive)
-{
-    fields<Frame>(archive, *this, field("method", method), field("opacity", opacity), field("smoothness", smoothness),
-        field("pixelSize", pixelSize));
-}
-
-template <class Archive> void Mask::serialize(Archive & archive)
-{
-    fields<VideoEffect>(archive, *this, field("backgroundFill", backgroundFill),
-        field("backgroundOpacity", backgroundOpacity), field("backgroundSmoothness", backgroundSmoothness),
-        field("highlightFrames", highlightFrames), field("concealFrames", concealFrames));
-}
+EFFECT_FIELDS(FrameHighlight, Frame)
+EFFECT_FIELDS(FrameConceal, Frame, method, opacity, smoothness, pixelSize)
+EFFECT_FIELDS(
+    Mask, VideoEffect, backgroundFill, backgroundOpacity, backgroundSmoothness, highlightFrames, concealFrames)
 
 } // namespace Effect

@@ -5,14 +5,7 @@
 
 namespace Effect {
 
-template <class Archive> void Flip::serialize(Archive & archive)
-{
-    fields<VideoEffect>(archive, *this, field("vertical", vertical), field("horizontal", horizontal));
-}
-
-template <class Archive> void Mirror::serialize(Archive & archive)
-{
-    fields<VideoEffect>(archive, *this, field("vertical", vertical), field("horizontal", horizontal));
-}
+EFFECT_FIELDS(Flip, VideoEffect, vertical, horizontal)
+EFFECT_FIELDS(Mirror, VideoEffect, vertical, horizontal)
 
 } // namespace Effect

@@ -5,12 +5,12 @@
 
 namespace Effect {
 
-EFFECT_VIDEO_FIELDS(RetroArtefacts, shake, vignetting, grain, scratches, rollerTrack)
-EFFECT_VIDEO_FIELDS(RetroColors, type)
-EFFECT_VIDEO_FIELDS(VHS, speed, shift, smoothness, relief)
-EFFECT_VIDEO_FIELDS(Television70s, stripesWidth)
-EFFECT_VIDEO_FIELDS(GlitchMpeg)
-EFFECT_VIDEO_FIELDS(GlitchSecurityCam, randDistortion, constDistortion)
-EFFECT_VIDEO_FIELDS(FilmStrip, type)
+EFFECT_FIELDS(RetroArtefacts, VideoEffect, shake, vignetting, grain, scratches, rollerTrack)
+EFFECT_FIELDS(RetroColors, VideoEffect, type)
+EFFECT_FIELDS(VHS, VideoEffect, speed, shift, smoothness, relief)
+EFFECT_FIELDS(Television70s, VideoEffect, stripesWidth)
+EFFECT_FIELDS(GlitchMpeg, VideoEffect)
+EFFECT_FIELDS(GlitchSecurityCam, VideoEffect, randDistortion, constDistortion)
+EFFECT_FIELDS(FilmStrip, VideoEffect, type)
 
 } // namespace Effect

@@ -5,20 +5,8 @@
 
 namespace Effect {
 
-template <class Archive> void Lut::serialize(Archive & archive)
-{
-    fields<VideoEffect>(archive, *this);
-}
-
-template <class Archive> void ShaderISF::serialize(Archive & archive)
-{
-    fields<VideoEffect>(archive, *this, field("inputs", inputs));
-}
-
-template <class Archive> void ExternalShader::serialize(Archive & archive)
-{
-    fields<VideoEffect>(archive, *this, field("apiVersion", apiVersion), field("supportsIntensity", supportsIntensity),
-        field("shaderResource", shaderResource), field("auxImageResource", auxImageResource));
-}
+EFFECT_FIELDS(Lut, VideoEffect)
+EFFECT_FIELDS(ShaderISF, VideoEffect, inputs)
+EFFECT_FIELDS(ExternalShader, VideoEffect, apiVersion, supportsIntensity, shaderResource, auxImageResource)
 
 } // namespace Effect

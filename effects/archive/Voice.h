@@ -5,17 +5,8 @@
 
 namespace Effect {
 
-template <class Archive> void AudioPhone::serialize(Archive & archive)
-{
-    fields<AudioFilter>(archive, *this, field("gainUp", gainUp), field("gainDown", gainDown), field("lBound", lBound),
-        field("rBound", rBound));
-}
-
-template <class Archive> void AudioMuffle::serialize(Archive & archive)
-{
-    fields<AudioFilter>(archive, *this, field("gainUp", gainUp), field("gainDown", gainDown), field("mean", mean),
-        field("dispersion", dispersion));
-}
+EFFECT_FIELDS(AudioPhone, AudioFilter, gainUp, gainDown, lBound, rBound)
+EFFECT_FIELDS(AudioMuffle, AudioFilter, gainUp, gainDown, mean, dispersion)
 
 template <class Archive> void AudioRadio::serialize(Archive & archive)
 {
@@ -28,19 +19,8 @@ template <class Archive> void AudioEcho::Echo::serialize(Archive & archive)
     fields(archive, field("delay", delay), field("decay", decay));
 }
 
-template <class Archive> void AudioEcho::serialize(Archive & archive)
-{
-    fields<AudioFilter>(archive, *this, field("gainIn", gainIn), field("gainOut", gainOut), field("echos", echos));
-}
-
-template <class Archive> void AudioPitch::serialize(Archive & archive)
-{
-    fields<AudioFilter>(archive, *this, field("pitch", pitch));
-}
-
-template <class Archive> void AudioRobot::serialize(Archive & archive)
-{
-    fields<AudioFilter>(archive, *this, field("level", level), field("pitch", pitch));
-}
+EFFECT_FIELDS(AudioEcho, AudioFilter, gainIn, gainOut, echos)
+EFFECT_FIELDS(AudioPitch, AudioFilter, pitch)
+EFFECT_FIELDS(AudioRobot, AudioFilter, level, pitch)
 
 } // namespace Effect

@@ -37,7 +37,7 @@ struct EFFECTS_API ColorMixField : VideoEffect
     QString note; // what the library knows nothing of
 };
 
-EFFECT_VIDEO_FIELDS(ColorMixField, threshold, contrast, color, note)
+EFFECT_FIELDS(ColorMixField, VideoEffect, threshold, contrast, color, note)
 
 } // namespace Effect
 
