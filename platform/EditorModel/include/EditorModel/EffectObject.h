@@ -59,11 +59,11 @@ public:
     virtual Type type() const = 0;
     /// How it is carried out.
     virtual Impl impl() const = 0;
-    /// Whether a user can set the intensity. False here.
+    /// Whether a user can set the intensity: not, unless the class says so.
     virtual bool hasIntensity() const;
-    /// Whether the effect takes a second picture. False here.
+    /// Whether the effect takes a second picture: not, unless the class says so.
     virtual bool isTwoInput() const;
-    /// The tag of a new effect of the class that came from no preset. Empty here.
+    /// The tag of a new effect of the class that came from no preset; empty for a class that names none.
     virtual QString defaultTag() const;
 
     static char const * NameInArchive() { return "Effect::Object"; }
