@@ -17,6 +17,7 @@ struct EFFECTS_API EffectDescriptor : Object
     Type descriptorType = Type::Video; ///< what `type()` answers
 
     EffectDescriptor();
+    /// The identifier, the group and what `type()` answers.
     EffectDescriptor(QString const & effectId, QString const & group, Type effectType);
 
     Type type() const override;
@@ -28,6 +29,7 @@ struct EFFECTS_API VideoEffect : Object
 {
     EFFECT_CLASS(VideoEffect)
 
+    /// The identifier and the group; the tag stays empty.
     VideoEffect(QString const & effectId, QString const & group);
 
     Type type() const override;
@@ -42,6 +44,7 @@ struct EFFECTS_API AudioFilter : Object
 {
     EFFECT_CLASS(AudioFilter)
 
+    /// The identifier and the group; the tag stays empty.
     AudioFilter(QString const & effectId, QString const & group);
 
     Type type() const override;
@@ -56,6 +59,7 @@ struct EFFECTS_API AudioEffect : Object
 {
     EFFECT_CLASS(AudioEffect)
 
+    /// The identifier and the group; the tag stays empty.
     AudioEffect(QString const & effectId, QString const & group);
 
     Type type() const override;

@@ -44,13 +44,13 @@ struct EFFECTS_API ManualEnhance : VideoEffect
     EFFECT_CLASS(ManualEnhance)
     ManualEnhance();
 
-    double gamma = 0;
-    double highlights = 0;
-    double shadows = 0;
-    double brightness = 0;
-    double contrast = 0;
-    double saturation = 0;
-    double hue = 0;
+    double gamma = 0;       ///< brightness of the middle tones
+    double highlights = 0;  ///< brightness of the bright parts
+    double shadows = 0;     ///< brightness of the dark parts
+    double brightness = 0;  ///< of the whole picture
+    double contrast = 0;    ///< flat below 0
+    double saturation = 0;  ///< grey at -1
+    double hue = 0;         ///< turns all colours
     double temperature = 0; ///< warm above 0, cold below
     double tint = 0;        ///< green above 0, magenta below
 

@@ -71,9 +71,10 @@ struct EFFECTS_API ColorBlendingBase : VideoEffect
     {
     };
 
+    /// The identifier and the group; mode 5.
     ColorBlendingBase(QString const & effectId, QString const & group);
 
-    Mode mode{5};
+    Mode mode{5}; ///< of the blending
 };
 
 /// A picture from the stock, blended over the clip.

@@ -21,17 +21,18 @@ struct EFFECTS_API AudioDynamics : AudioEffect
     {
     };
 
-    Detection detection{0};
-    Link link{0};
+    Detection detection{0};                          ///< how the level is measured
+    Link link{0};                                    ///< how the channels are linked
     Decibel gainIn = 0.0_dB;                         ///< level at the input
     Decibel threshold = Decibel::fromDbLevel(-18.1); ///< level at which the processor acts
-    double ratio = 2.0;
-    std::int64_t attack = 20;   ///< in milliseconds; the engine gets at least 0.01
-    std::int64_t release = 250; ///< in milliseconds; the engine gets at least 0.01
-    Decibel gainOut = 0.0_dB;   ///< make-up gain
-    double knee;                ///< width of the knee, as a ratio
+    double ratio = 2.0;                              ///< of the change of level, passed on as it is
+    std::int64_t attack = 20;                        ///< in milliseconds; the engine gets at least 0.01
+    std::int64_t release = 250;                      ///< in milliseconds; the engine gets at least 0.01
+    Decibel gainOut = 0.0_dB;                        ///< make-up gain
+    double knee;                                     ///< width of the knee, as a ratio
 
 protected:
+    /// The identifier, which is the group as well.
     AudioDynamics(QString const & effectId, double kneeWidth);
 };
 
@@ -43,7 +44,7 @@ struct EFFECTS_API AudioNoiseGate : AudioDynamics
     /// The intensity seen from the other end, 1 being no gate at all. It hides the range of the base, which remains
     /// as `Object::range`.
     double range() const;
-    void setRange(double value);
+    void setRange(double value); ///< sets the intensity to 1 - value
 };
 
 /// Turns down what is above the threshold.

@@ -19,22 +19,24 @@ struct EFFECTS_API AudioEqualizer : AudioFilter
     enum class Preset : std::int32_t
     {
     };
-    static constexpr int presetCount = 24;
+    static constexpr int presetCount = 24; ///< numbers of presets
 
     /// One band.
     struct EFFECTS_API BandEq : Serialize::ISerializable
     {
         EFFECT_CLASS(AudioEqualizer::BandEq)
         BandEq();
+        /// @param frequency  in hertz
+        /// @param level      in decibels
         BandEq(std::int32_t frequency, double level);
 
         std::int32_t centralFrequency = 0; ///< in hertz
         double gain = 0;                   ///< in decibels
     };
 
-    Preset preset{1}; ///< that the bands came from; the engine looks at the bands alone
-    QString presetName{QLatin1String("")};
-    std::deque<BandEq> multiband;
+    Preset preset{1};                      ///< that the bands came from; the engine looks at the bands alone
+    QString presetName{QLatin1String("")}; ///< to show to the user
+    std::deque<BandEq> multiband;          ///< in any order; each counts by itself
 
     /// An equalizer with the preset's ten bands, from 31 Hz to 16 kHz, and no name. A number that is no preset is kept,
     /// and gives no bands.

@@ -15,6 +15,7 @@ struct EFFECTS_API EffectsHolder : EffectDescriptor
 {
     EFFECT_CLASS(EffectsHolder)
     EffectsHolder();
+    /// The identifier, the group and what `type()` answers.
     EffectsHolder(QString const & effectId, QString const & group, Type effectType);
     EffectsHolder(EffectsHolder const &) = delete;
     EffectsHolder & operator=(EffectsHolder const &) = delete;

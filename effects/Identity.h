@@ -12,7 +12,10 @@
 
 namespace Effect {
 
+/// What an effect is: `Effect::Object::id`.
 namespace Id {
+/// @{
+/// Identifier of the effects of that name.
 EFFECTS_API extern QString const AlphaInserter;
 EFFECTS_API extern QString const AiDenoise;
 EFFECTS_API extern QString const Compressor;
@@ -45,9 +48,13 @@ EFFECTS_API extern QString const ShaderISF;
 EFFECTS_API extern QString const SideBySide;
 EFFECTS_API extern QString const Transpose;
 EFFECTS_API extern QString const WhiteBalance;
+/// @}
 } // namespace Id
 
+/// What a new effect is tagged with: `Effect::Object::tag`.
 namespace Tags {
+/// @{
+/// Tag of the effects of that name.
 EFFECTS_API extern QString const tagAiDenoise;
 EFFECTS_API extern QString const tagAudioCompressor;
 EFFECTS_API extern QString const tagAudioDistortion;
@@ -79,12 +86,17 @@ EFFECTS_API extern QString const tagShaderISF;
 EFFECTS_API extern QString const tagSideBySide;
 EFFECTS_API extern QString const tagTranspose;
 EFFECTS_API extern QString const tagWhiteBalance;
+/// @}
 } // namespace Tags
 
+/// Groups that hold effects of more than one kind: `Effect::Object::groupId`.
 namespace Group {
+/// @{
+/// Identifier of the group of that name.
 EFFECTS_API extern QString const GroupAudioNoiseReduction;
 EFFECTS_API extern QString const GroupPip;
 EFFECTS_API extern QString const GroupZoom;
+/// @}
 } // namespace Group
 
 } // namespace Effect

@@ -24,11 +24,11 @@ struct EFFECTS_API Frame : Serialize::ISerializable
         Ellipse = 1
     };
 
-    Shape shape = Shape::Rectangle;
+    Shape shape = Shape::Rectangle; ///< of its edge
     /// Places the frame, which fills the picture as it is, while there is no track. By default it has half the
     /// picture's size, in its middle.
     Types::Transform transform{0.5, 0, 0, 0.5, 0, 0, 0, 0, 1};
-    bool outline = false;
+    bool outline = false;                  ///< whether the engine draws its edge
     QString trackingId{QLatin1String("")}; ///< of the motion track; empty for a frame that stands still
     Types::Transform trackingTransform;    ///< places the frame in the tracked rectangle
 };
@@ -62,10 +62,10 @@ struct EFFECTS_API FrameConceal : Frame
         Pixelate = 2
     };
 
-    Method method = Method::Pixelate;
-    double opacity = 1.0;    ///< from 0 to 1; values beyond are passed on
-    double smoothness = 0.0; ///< of the frame's edge
-    double pixelSize = 0.1;  ///< of the picture
+    Method method = Method::Pixelate; ///< of hiding
+    double opacity = 1.0;             ///< from 0 to 1; values beyond are passed on
+    double smoothness = 0.0;          ///< of the frame's edge
+    double pixelSize = 0.1;           ///< of the picture
 
     FrameConceal * setShape(Shape value);
     FrameConceal * setOutline(bool value);
@@ -97,19 +97,25 @@ struct EFFECTS_API Mask : VideoEffect
         Blur = 1
     };
 
-    BackgroundFill backgroundFill = BackgroundFill::Color;
-    double backgroundOpacity = 0.5;    ///< from 0 to 1; values beyond are passed on
-    double backgroundSmoothness = 0.0; ///< of the frames' edges
-    std::deque<FrameHighlight> highlightFrames;
-    std::deque<FrameConceal> concealFrames;
+    BackgroundFill backgroundFill = BackgroundFill::Color; ///< what becomes of it
+    double backgroundOpacity = 0.5;                        ///< from 0 to 1; values beyond are passed on
+    double backgroundSmoothness = 0.0;                     ///< of the frames' edges
+    std::deque<FrameHighlight> highlightFrames;            ///< together they leave one background
+    std::deque<FrameConceal> concealFrames;                ///< each hides its own inside
 
     Mask * setBackgroundFill(BackgroundFill value);
     Mask * setBackgroundOpacity(double value);
     Mask * setBackgroundSmoothness(double value);
+    /// @{
+    /// Appends a copy of the frame, and returns this effect.
     Mask * addFrame(FrameHighlight const & frame);
     Mask * addFrame(FrameConceal const & frame);
+    /// @}
+    /// @{
+    /// Drops all frames of the kind, and returns this effect.
     Mask * clearHighlightFrames();
     Mask * clearConcealFrames();
+    /// @}
 };
 
 } // namespace Effect

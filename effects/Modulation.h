@@ -18,9 +18,9 @@ struct EFFECTS_API AudioDistortion : AudioEffect
     {
     };
 
-    Kind type{0}; ///< hides the operation of the base, which remains as `Object::type()`
-    double boost = 0.1;
-    double tone = 0.5;
+    Kind type{0};       ///< hides the operation of the base, which remains as `Object::type()`
+    double boost = 0.1; ///< how hard the sound is driven; passed on as it is
+    double tone = 0.5;  ///< how bright the result is; passed on as it is
 };
 
 /// Puts the sound into a room.
@@ -52,13 +52,13 @@ struct EFFECTS_API AudioFlanger : AudioEffect
     {
     };
 
-    Shape shape{1};
-    Interpolation interpolation{0};
-    std::int64_t delay = 0; ///< in milliseconds
-    std::int64_t depth = 2; ///< how far the delay wanders, in milliseconds
-    double regen = 0.0;     ///< how much of the output is fed back
-    double speed = 0.5;     ///< of the wave
-    double phase = 25.0;    ///< between the channels
+    Shape shape{1};                 ///< of the wave
+    Interpolation interpolation{0}; ///< between samples
+    std::int64_t delay = 0;         ///< in milliseconds
+    std::int64_t depth = 2;         ///< how far the delay wanders, in milliseconds
+    double regen = 0.0;             ///< how much of the output is fed back
+    double speed = 0.5;             ///< of the wave
+    double phase = 25.0;            ///< between the channels
 };
 
 /// Makes the pitch tremble.
@@ -66,7 +66,7 @@ struct EFFECTS_API AudioVibrato : AudioEffect
 {
     EFFECT_FILTER_CLASS(AudioVibrato)
 
-    double frequencyHz = 15.0;
+    double frequencyHz = 15.0; ///< of the trembling, in hertz
 };
 
 } // namespace Effect

@@ -10,13 +10,15 @@ namespace External::ShaderISF {
 /// the upper-case forms only.
 struct Key
 {
-    std::string_view upper;
-    std::string_view lower;
+    std::string_view upper; ///< as the format writes it
+    std::string_view lower; ///< as some files have it
 };
 
+/// The keys that have a meaning. Others are passed over.
 namespace Keys {
 
-// The whole effect.
+/// @{
+/// A key of the head itself.
 inline constexpr Key isfVersion{"ISFVSN", "isfvsn"};
 inline constexpr Key description{"DESCRIPTION", "description"};
 inline constexpr Key credit{"CREDIT", "credit"};
@@ -25,8 +27,10 @@ inline constexpr Key inputs{"INPUTS", "inputs"};
 inline constexpr Key passes{"PASSES", "passes"};
 inline constexpr Key imported{"IMPORTED", "imported"};
 inline constexpr Key persistentBuffers{"PERSISTENT_BUFFERS", "persistent_buffers"}; ///< version 1 only
+/// @}
 
-// An input or an import.
+/// @{
+/// A key of an object in `INPUTS` or `IMPORTED`.
 inline constexpr Key name{"NAME", "name"};
 inline constexpr Key type{"TYPE", "type"};
 inline constexpr Key label{"LABEL", "label"};
@@ -37,13 +41,16 @@ inline constexpr Key identity{"IDENTITY", "identity"};
 inline constexpr Key values{"VALUES", "values"};
 inline constexpr Key labels{"LABELS", "labels"};
 inline constexpr Key path{"PATH", "path"};
+/// @}
 
-// A rendering pass.
+/// @{
+/// A key of an object in `PASSES`.
 inline constexpr Key target{"TARGET", "target"};
 inline constexpr Key persistent{"PERSISTENT", "persistent"};
 inline constexpr Key floatBuffer{"FLOAT", "float"};
 inline constexpr Key width{"WIDTH", "width"};
 inline constexpr Key height{"HEIGHT", "height"};
+/// @}
 
 } // namespace Keys
 } // namespace External::ShaderISF

@@ -24,11 +24,12 @@ public:
 
     /// The names of the categories that the item is filed under, in ascending order.
     virtual std::set<QString> const & categories() const = 0;
+    /// Files the item under one more category.
     virtual void addCategory(QString const & name) = 0;
     /// What the item carries. It lives as long as the item.
     virtual Effect::Object const & payload() const = 0;
-    virtual void setUserFlagA(bool set) = 0;
-    virtual void setUserFlagB(bool set) = 0;
+    virtual void setUserFlagA(bool set) = 0; ///< what `userFlagA` answers
+    virtual void setUserFlagB(bool set) = 0; ///< what `userFlagB` answers
 
     /// Whether the item is the user's own, not a stock one. Clear at first.
     virtual bool userFlagA() const = 0;
@@ -44,21 +45,22 @@ protected:
 /// How a collection shows one of its categories.
 struct CategoryInfo
 {
+    /// Whose items the category holds.
     enum class Kind
     {
         Thematic, ///< items of one theme, as the stock has them
         User      ///< the user's own items
     };
 
-    Kind kind = Kind::Thematic;
-    int position = 0; ///< among the categories of the collection, from 0
+    Kind kind = Kind::Thematic; ///< whose items it holds
+    int position = 0;           ///< among the categories of the collection, from 0
 };
 
 /// A category of a collection.
 struct Category
 {
-    QString name;
-    CategoryInfo info;
+    QString name;      ///< unique in its collection; the host shows a text for it
+    CategoryInfo info; ///< as it was added
 };
 
 /// The items of one kind, such as all stock LUTs, and the categories that they are filed under. Any thread may call
@@ -74,9 +76,9 @@ public:
     virtual IItem const * itemByTag(QString const & tag) const = 0;
     /// Adds a category. One that is there already stays as it is.
     virtual void addCategory(QString const & name, CategoryInfo const & info) = 0;
-    virtual bool hasCategory(QString const & name) const = 0;
+    virtual bool hasCategory(QString const & name) const = 0; ///< whether it was added
 
-    virtual QString const & name() const = 0;
+    virtual QString const & name() const = 0; ///< as registered, such as "Luts"
     /// The items added so far, in the order in which they were added. They live as long as the collection.
     virtual std::vector<IItem const *> items() const = 0;
     /// The categories added so far, in the order in which they were added.

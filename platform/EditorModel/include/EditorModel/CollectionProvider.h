@@ -27,6 +27,7 @@ public:
     /// Makes a collection known under its name. Of two with one name the later one is found for as long as it is
     /// registered.
     static void registerCollection(ICollection & collection);
+    /// Takes a registration back; without one, does nothing.
     static void unregisterCollection(ICollection const & collection);
 
     /// The storage that the host set. Throws `std::logic_error` when it has set none.

@@ -18,7 +18,7 @@ namespace Effect::Factory {
 struct EffectSettings
 {
     std::vector<std::unique_ptr<Quoril::Proc::Settings>> settings; ///< in the order of execution
-    std::uint8_t stageCode = 0;
+    std::uint8_t stageCode = 0; ///< the step of the engine that executes them; its own number
     std::string implementation; ///< one of `Quoril::Proc::ImplNames`
 };
 
@@ -45,7 +45,9 @@ protected:
     friend EDITORMODEL_EXPORT EffectSettings videoEffectSettings(Object const & effect, VideoParams const & params);
     friend EDITORMODEL_EXPORT EffectSettings audioEffectSettings(Object const & effect, AudioParams const & params);
 
+    /// What a video effect is executed by; empty for an effect that it cannot convert.
     virtual EffectSettings createVideoEffectSettings(Object const & effect, VideoParams const & params) = 0;
+    /// The same for an audio effect.
     virtual EffectSettings createAudioEffectSettings(Object const & effect, AudioParams const & params) = 0;
 };
 
@@ -56,6 +58,7 @@ EDITORMODEL_EXPORT IFactory * factory();
 
 /// The installed factory's record for the effect. Throws `std::logic_error` when no factory is installed.
 EDITORMODEL_EXPORT EffectSettings videoEffectSettings(Object const & effect, VideoParams const & params);
+/// The same for an audio effect.
 EDITORMODEL_EXPORT EffectSettings audioEffectSettings(Object const & effect, AudioParams const & params);
 
 } // namespace Effect::Factory

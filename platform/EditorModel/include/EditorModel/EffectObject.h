@@ -44,21 +44,26 @@ public:
     Object & operator=(Object &&) = default;
     ~Object() override;
 
-    QString tag{QLatin1String("")};
-    QString id;
-    QString groupId;
-    double intensity = 1.0; ///< strength, 1 being the whole effect
-    Resource::ID resource;
+    QString tag{QLatin1String("")}; ///< tells the presets of one kind apart, and finds an item in its collection
+    QString id;                     ///< of the effect's kind, compared as text
+    QString groupId;                ///< of its group, or the identifier again
+    double intensity = 1.0;         ///< strength, 1 being the whole effect
+    Resource::ID resource;          ///< the file that the effect refers to; not valid when there is none
     QString resourcePath{QLatin1String("")}; ///< of the resource's file
     std::optional<Types::Range> range;       ///< the part of the clip that the effect covers; all of it when absent
 
     QString const & mimeType() const override;
     /// What tells the results of one processing from those of another: the identifier, unless a class says more.
     virtual QString processingSettingsId() const;
+    /// What the effect works on.
     virtual Type type() const = 0;
+    /// How it is carried out.
     virtual Impl impl() const = 0;
+    /// Whether a user can set the intensity: not, unless the class says so.
     virtual bool hasIntensity() const;
+    /// Whether the effect takes a second picture: not, unless the class says so.
     virtual bool isTwoInput() const;
+    /// The tag of a new effect of the class that came from no preset; empty for a class that names none.
     virtual QString defaultTag() const;
 
     static char const * NameInArchive() { return "Effect::Object"; }
@@ -77,9 +82,11 @@ private:
 
 } // namespace Effect
 
+/// @cond
 template <> struct boost::serialization::guid_defined<Effect::Object> : boost::mpl::true_
 {};
 template <> struct boost::serialization::ext::guid_impl<Effect::Object>
 {
     static char const * call() { return Effect::Object::NameInArchive(); }
 };
+/// @endcond

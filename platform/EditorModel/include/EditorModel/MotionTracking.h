@@ -28,19 +28,19 @@ namespace MotionTracking {
 /// A rectangle in picture coordinates, from 0 at the left and top edge to 1 at the right and bottom edge.
 struct EDITORMODEL_EXPORT Frame
 {
-    double left = 0.0;
-    double top = 0.0;
-    double right = 0.0;
-    double bottom = 0.0;
+    double left = 0.0;   ///< of the picture's width
+    double top = 0.0;    ///< of the picture's height
+    double right = 0.0;  ///< of the picture's width
+    double bottom = 0.0; ///< of the picture's height
 
-    QRectF toRectF() const;
+    QRectF toRectF() const; ///< the same rectangle
 };
 
 /// Where the tracked thing was at one time.
 struct TimedFrame
 {
-    MTime time;
-    Frame frame;
+    MTime time;  ///< within the clip
+    Frame frame; ///< where the tracked thing was
 };
 
 /// One track. It never changes, so that threads can share it.

@@ -23,7 +23,9 @@ public:
         Shader = 2 ///< a shader with the files beside it
     };
 
+    /// How the payload's files are brought: `None`, unless the class says more.
     virtual DownloadResourceType downloadResourceType() const;
+    /// The media type of the payload's kind, such as "application/x-editor-effect". It lives as long as the payload.
     virtual QString const & mimeType() const = 0;
 
 protected:

@@ -34,6 +34,7 @@ class EDITORMODEL_EXPORT ID : public Serialize::ISerializable
 {
 public:
     ID();
+    /// Any name and type.
     ID(QString const & name, Type type);
     ID(ID const &) = default;
     ID(ID &&) = default;
@@ -41,11 +42,12 @@ public:
     ID & operator=(ID &&) = default;
     ~ID() override;
 
-    QString const & name() const { return m_name; }
-    Type type() const { return m_type; }
+    QString const & name() const { return m_name; } ///< of the resource, not of a file
+    Type type() const { return m_type; }            ///< what it is
     /// Whether it can name a resource at all: it has a name and a type.
     bool isValid() const { return !m_name.isEmpty() && m_type != Type::None; }
 
+    /// By name and type.
     bool operator==(ID const & other) const { return m_type == other.m_type && m_name == other.m_name; }
     bool operator!=(ID const & other) const { return !(*this == other); }
     /// By name, then by type.
@@ -67,10 +69,10 @@ private:
 /// How a resource runs in time.
 struct EDITORMODEL_EXPORT Timing : public Serialize::ISerializable
 {
-    int loopCount = 0;
-    MTime start;
-    MTime length;
-    int flags = 0;
+    int loopCount = 0; ///< as it was told; nothing here repeats
+    MTime start;       ///< where it begins
+    MTime length;      ///< zero when the resource has none of its own
+    int flags = 0;     ///< as they were told
 
     Timing();
     Timing(Timing const &) = default;
@@ -111,16 +113,18 @@ struct Image
 /// @param length  zero when the resource has no length of its own
 EDITORMODEL_EXPORT void registerResource(
     ID const & id, QString const & path, int index, MTime length, Timing const & timing);
+/// Takes a registration back; without one, does nothing.
 EDITORMODEL_EXPORT void unregisterResource(ID const & id);
+/// Whether a file is registered under that very name and type.
 EDITORMODEL_EXPORT bool isResourceRegistered(ID const & id);
 
 /// What a resource was registered with.
 struct Registration
 {
-    QString path;
-    int index = 0;
-    MTime length;
-    Timing timing;
+    QString path;  ///< of the file
+    int index = 0; ///< of the stream in the file
+    MTime length;  ///< zero when the resource has none of its own
+    Timing timing; ///< as it was registered
 };
 
 /// Nothing for a resource that is not registered.

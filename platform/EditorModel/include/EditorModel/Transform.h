@@ -36,10 +36,10 @@ public:
 
     /// Entry `index`, 0 to 8, row by row.
     double operator[](std::size_t index) const { return m_entries[index]; }
-    double & operator[](std::size_t index) { return m_entries[index]; }
+    double & operator[](std::size_t index) { return m_entries[index]; } ///< to be written
 
-    Quoril::Core::Matrix3x3 toMatrix3x3() const;
-    QTransform toQTransform() const;
+    Quoril::Core::Matrix3x3 toMatrix3x3() const; ///< entry by entry
+    QTransform toQTransform() const;             ///< entry by entry
 
     /// `fuzzyEqual`, entry by entry.
     bool operator==(Transform const & other) const;
@@ -62,6 +62,7 @@ class EDITORMODEL_EXPORT Range : public Serialize::ISerializable
 {
 public:
     Range();
+    /// Neither is checked.
     Range(MTime start, MTime length);
     Range(Range const &) = default;
     Range(Range &&) = default;
@@ -69,9 +70,10 @@ public:
     Range & operator=(Range &&) = default;
     ~Range() override;
 
-    MTime start() const { return m_start; }
-    MTime length() const { return m_length; }
+    MTime start() const { return m_start; }   ///< where it begins
+    MTime length() const { return m_length; } ///< how long it lasts
 
+    /// Exact.
     bool operator==(Range const & other) const { return m_start == other.m_start && m_length == other.m_length; }
     bool operator!=(Range const & other) const { return !(*this == other); }
 

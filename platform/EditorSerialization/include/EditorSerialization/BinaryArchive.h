@@ -46,11 +46,12 @@ class EDITORSERIALIZATION_EXPORT BinaryOArchive
 public:
     /// @param flags  `boost::archive::no_header` leaves the magic number and the version out
     explicit BinaryOArchive(std::streambuf & stream, unsigned flags = 0);
+    /// Writes into the stream's buffer; its state is neither asked nor set.
     explicit BinaryOArchive(std::ostream & stream, unsigned flags = 0);
     ~BinaryOArchive() override;
 
-    /// @name The framework's entry points, taken over
     /// @{
+    /// One of the framework's entry points, taken over: nobody else calls it.
     void register_basic_serializer(boost::archive::detail::basic_oserializer const & serializer);
     void save_object(void const * object, boost::archive::detail::basic_oserializer const & serializer);
     void save_pointer(void const * object, boost::archive::detail::basic_pointer_oserializer const * serializer);
@@ -147,11 +148,12 @@ class EDITORSERIALIZATION_EXPORT BinaryIArchive
 public:
     /// @param flags  `boost::archive::no_header` expects neither magic number nor version
     explicit BinaryIArchive(std::streambuf & stream, unsigned flags = 0);
+    /// Reads from the stream's buffer; its state is neither asked nor set.
     explicit BinaryIArchive(std::istream & stream, unsigned flags = 0);
     ~BinaryIArchive() override;
 
-    /// @name The framework's entry points, taken over
     /// @{
+    /// One of the framework's entry points, taken over: nobody else calls it.
     void register_basic_serializer(boost::archive::detail::basic_iserializer const & serializer);
     void load_object(void * object, boost::archive::detail::basic_iserializer const & serializer);
     /// @}

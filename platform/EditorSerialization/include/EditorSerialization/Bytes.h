@@ -18,16 +18,19 @@ namespace Serialize {
 class EDITORSERIALIZATION_EXPORT ByteWriter
 {
 public:
+    /// @param stream  must outlive the writer
     explicit ByteWriter(std::streambuf & stream)
         : m_stream(stream)
     {}
 
+    /// Writes all of the bytes.
     void write(void const * bytes, std::size_t count)
     {
         if (m_stream.sputn(static_cast<char const *>(bytes), static_cast<std::streamsize>(count)) !=
             static_cast<std::streamsize>(count))
             fail();
     }
+    /// Writes the bytes that the value has in memory.
     template <class T> void write(T const & value) { write(&value, sizeof value); }
     void write(std::string const & text); ///< 64-bit count of bytes, then the bytes
     void write(QString const & text);     ///< 32-bit count of UTF-16 units, or -1 for a null string, then the units
@@ -42,10 +45,12 @@ private:
 class EDITORSERIALIZATION_EXPORT ByteReader
 {
 public:
+    /// @param stream  must outlive the reader
     explicit ByteReader(std::streambuf & stream)
         : m_stream(stream)
     {}
 
+    /// Reads that many bytes.
     void read(void * bytes, std::size_t count)
     {
         std::streamsize const got = m_stream.sgetn(static_cast<char *>(bytes), static_cast<std::streamsize>(count));
@@ -60,8 +65,8 @@ public:
         read(whole, sizeof whole);
         std::memcpy(static_cast<void *>(&value), whole, sizeof value);
     }
-    void read(bool & value); ///< one byte, 0 or 1
-    void read(std::string & text);
+    void read(bool & value);                                 ///< one byte, 0 or 1
+    void read(std::string & text);                           ///< takes memory as the bytes arrive
     void readShort(std::string & text, std::size_t longest); ///< refuses a text of more than `longest` bytes
     /// A text equal to the one that is there keeps the old one's storage.
     void read(QString & text);

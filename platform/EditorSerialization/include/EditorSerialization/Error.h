@@ -15,10 +15,13 @@ namespace Serialize {
 class EDITORSERIALIZATION_EXPORT ArchiveError : public boost::archive::archive_exception
 {
 public:
+    /// @param errorCode  the framework's code
+    /// @param text       what is wrong and where
     ArchiveError(exception_code errorCode, std::string text);
-    ArchiveError(ArchiveError const &) noexcept;
+    ArchiveError(ArchiveError const &) noexcept; ///< as exceptions are copied
     ~ArchiveError() noexcept override;
 
+    /// The text.
     char const * what() const noexcept override;
 
 private:
@@ -33,6 +36,7 @@ inline constexpr int maxObjectDepth = 64;
 class EDITORSERIALIZATION_EXPORT DepthGuard
 {
 public:
+    /// @param depth  the counter, which outlives the guard
     explicit DepthGuard(int & depth);
     /// The same, but `fail` is given the text and throws, to say where it is.
     template <class Fail>

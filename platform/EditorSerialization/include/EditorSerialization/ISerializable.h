@@ -22,7 +22,10 @@ public:
 
     /// The archive name of the object's class, such as "Effect::Crop".
     virtual std::string GetNameInArchive() const = 0;
+    /// Writes the content, without the name.
     virtual void Serialize(ISerializer & serializer) const = 0;
+    /// Reads the content over what is there. Throws where something else stands than was written; what was read until
+    /// then stays.
     virtual void Deserialize(IDeserializer & deserializer) = 0;
 
 protected:
@@ -36,6 +39,7 @@ protected:
 /// Lets the archives reach a class's private `serialize`; every class befriends it.
 struct Access
 {
+    /// Calls the object's own `serialize`.
     template <class Archive, class T> static void serialize(Archive & archive, T & object)
     {
         object.serialize(archive);

@@ -68,14 +68,15 @@ class EDITORSERIALIZATION_EXPORT oarchive : public boost::archive::detail::commo
     friend class boost::archive::save_access;
 
 public:
+    /// @param document  written over
     explicit oarchive(nlohmann::json & document);
     ~oarchive() override;
 
     /// The value being filled.
     nlohmann::json & head() { return *m_stack.back(); }
 
-    /// @name The framework's entry points, taken over
     /// @{
+    /// One of the framework's entry points, taken over: nobody else calls it.
     void register_basic_serializer(boost::archive::detail::basic_oserializer const & serializer);
     void save_object(void const * object, boost::archive::detail::basic_oserializer const & serializer);
     void save_pointer(void const * object, boost::archive::detail::basic_pointer_oserializer const * serializer);
@@ -156,14 +157,15 @@ class EDITORSERIALIZATION_EXPORT iarchive : public boost::archive::detail::commo
     friend class boost::archive::load_access;
 
 public:
+    /// @param document  as `parse` gives it
     explicit iarchive(nlohmann::json const & document);
     ~iarchive() override;
 
     /// The value being read.
     nlohmann::json const & head() const { return *m_stack.back().value; }
 
-    /// @name The framework's entry points, taken over
     /// @{
+    /// One of the framework's entry points, taken over: nobody else calls it.
     void register_basic_serializer(boost::archive::detail::basic_iserializer const & serializer);
     void load_object(void * object, boost::archive::detail::basic_iserializer const & serializer);
     /// @}

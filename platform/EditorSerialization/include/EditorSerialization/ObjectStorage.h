@@ -17,7 +17,9 @@ class EDITORSERIALIZATION_EXPORT ObjectStorage
 public:
     ObjectStorage();
     ~ObjectStorage(); ///< deletes what it still owns
+    /// What one storage owns, the other one owns afterwards.
     ObjectStorage(ObjectStorage &&) noexcept;
+    /// What this one owned before is deleted.
     ObjectStorage & operator=(ObjectStorage &&) noexcept;
 
     /// Takes the object over and returns it. Its class must be registered.
@@ -39,12 +41,12 @@ private:
 /// the pointer out first calls `storage.releaseAll()`.
 template <class T> struct serialize_ptr
 {
-    std::unique_ptr<T> pointer;
-    ObjectStorage storage;
+    std::unique_ptr<T> pointer; ///< the object itself; null when nothing was read
+    ObjectStorage storage;      ///< owns what was created on the way, such as an item's payload
 
-    T * operator->() const { return pointer.get(); }
-    T & operator*() const { return *pointer; }
-    explicit operator bool() const { return pointer != nullptr; }
+    T * operator->() const { return pointer.get(); }              ///< the object
+    T & operator*() const { return *pointer; }                    ///< the object
+    explicit operator bool() const { return pointer != nullptr; } ///< whether there is an object
 };
 
 } // namespace Serialize

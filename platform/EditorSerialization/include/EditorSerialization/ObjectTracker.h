@@ -29,6 +29,7 @@ class EDITORSERIALIZATION_EXPORT ObjectTracker : public boost::archive::detail::
     friend class boost::archive::save_access;
 
 public:
+    /// How an object was reached. The numbers never change.
     enum class Kind : std::int32_t
     {
         Unknown = 0,
@@ -37,14 +38,15 @@ public:
         Pointer = 3,      ///< reached by pointer; the object belongs to somebody else
     };
 
+    /// What is known of one object.
     struct Entry
     {
-        Kind kind = Kind::Unknown;
-        bool saved = false;
+        Kind kind = Kind::Unknown;     ///< how it was reached first
+        bool saved = false;            ///< whether its content has been walked
         std::function<void()> release; ///< deletes the object; empty unless the kind is `OwnedPointer`
     };
 
-    using Entries = std::unordered_map<void const *, Entry>;
+    using Entries = std::unordered_map<void const *, Entry>; ///< by the address of the whole object
 
     ObjectTracker();
     ~ObjectTracker() override;
@@ -54,7 +56,7 @@ public:
 
     /// With the flag set, a pointer newly found becomes `Pointer` instead of `OwnedPointer`.
     void setForeign(bool foreign) { m_foreign = foreign; }
-    bool isForeign() const { return m_foreign; }
+    bool isForeign() const { return m_foreign; } ///< the flag
 
     /// Marks an object as somebody else's before a pointer to it is walked, so that it gets no release function.
     void forceForeign(void const * object);
@@ -68,8 +70,8 @@ public:
     /// Forgets every entry and releases nothing.
     void clear() { m_entries.clear(); }
 
-    /// @name The framework's entry points, taken over
     /// @{
+    /// One of the framework's entry points, taken over: nobody else calls it.
     void register_basic_serializer(boost::archive::detail::basic_oserializer const & serializer);
     void save_object(void const * object, boost::archive::detail::basic_oserializer const & serializer);
     void save_pointer(void const * object, boost::archive::detail::basic_pointer_oserializer const * serializer);

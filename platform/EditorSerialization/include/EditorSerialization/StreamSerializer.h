@@ -15,6 +15,7 @@ namespace Serialize {
 class EDITORSERIALIZATION_EXPORT StreamSerializer final : public ISerializer, private IValueWriter
 {
 public:
+    /// Writes the head of the stream, which must outlive the serializer.
     explicit StreamSerializer(std::streambuf & stream);
     ~StreamSerializer() override;
 
@@ -48,6 +49,7 @@ private:
 class EDITORSERIALIZATION_EXPORT StreamDeserializer final : public IDeserializer, private IValueReader
 {
 public:
+    /// Reads the head of the stream, which must outlive the deserializer.
     explicit StreamDeserializer(std::streambuf & stream);
     ~StreamDeserializer() override;
 

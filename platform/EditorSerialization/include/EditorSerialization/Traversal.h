@@ -23,11 +23,13 @@ namespace Serialize {
 /// A key, which is a literal or null, and a pointer to the value that stands under it.
 template <class T> using Field = boost::serialization::nvp<T> const;
 
+/// A field of that key. The key must outlive it.
 template <class T> Field<T> field(char const * key, T & value)
 {
     return boost::serialization::make_nvp(key, value);
 }
 
+/// Whether `Archive` is one of the two polymorphic interfaces.
 template <class Archive>
 inline constexpr bool isInterface =
     std::is_base_of_v<ISerializer, Archive> || std::is_base_of_v<IDeserializer, Archive>;
@@ -164,7 +166,7 @@ template <class T> void interfaceField(IDeserializer & deserializer, Field<T> & 
 /// `static void set(T &, Type)`.
 template <class T> struct PlainForm
 {
-    using Type = void;
+    using Type = void; ///< the plain value; void for a type that has none
 };
 
 namespace Detail {

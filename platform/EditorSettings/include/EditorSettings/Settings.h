@@ -25,6 +25,7 @@ public:
 
     /// Sets a root for the whole process; an empty path takes the setting back.
     static void setStockRoot(QString const & path);
+    /// The same for the user root.
     static void setUserRoot(QString const & path);
 
     static QString stockVideoEffectsPath();   ///< VideoEffects

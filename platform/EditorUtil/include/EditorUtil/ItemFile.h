@@ -22,7 +22,7 @@
 
 namespace EditorCollection {
 
-inline constexpr std::string_view itemFileSuffix = ".effect.json";
+inline constexpr std::string_view itemFileSuffix = ".effect.json";      ///< of every item file's name
 inline constexpr std::int64_t maxItemFileSize = std::int64_t(16) << 20; ///< bytes
 
 /// Reads the item in a file, which must be a regular one of at most `maxItemFileSize` bytes. Throws an exception

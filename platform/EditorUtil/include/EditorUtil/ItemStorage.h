@@ -54,7 +54,7 @@ public:
     /// The same, for a while: whether there is nothing left.
     bool waitForAll(std::chrono::milliseconds timeout);
 
-    Progress progress() const;
+    Progress progress() const; ///< at this moment
 
 private:
     class Loader;

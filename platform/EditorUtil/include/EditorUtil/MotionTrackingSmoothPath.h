@@ -27,6 +27,7 @@ namespace MotionTracking {
 class EDITORUTIL_EXPORT MotionTrackingSmoothPath
 {
 public:
+    /// Chooses the point of a frame.
     using Accessor = std::function<QPointF(TimedFrame const &)>;
 
     /// A path over the frames of `data`, where null is as good as no frames. `accessor` is called once per frame, in

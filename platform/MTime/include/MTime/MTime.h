@@ -11,14 +11,16 @@
 class MTime
 {
 public:
-    static constexpr std::int64_t unitsPerSecond = 1'000'000;
+    static constexpr std::int64_t unitsPerSecond = 1'000'000; ///< a unit is a microsecond
 
     constexpr MTime() = default; ///< zero
+    /// @param units  microseconds
     constexpr explicit MTime(std::int64_t units)
         : m_units(units)
     {}
 
-    constexpr std::int64_t units() const { return m_units; }
+    constexpr std::int64_t units() const { return m_units; } ///< microseconds
+    /// To the nearest double.
     constexpr double seconds() const { return static_cast<double>(m_units) / static_cast<double>(unitsPerSecond); }
 
     /// For people: hours, minutes and seconds, such as "-0:01:02.500000".

@@ -15,8 +15,8 @@ using Color = std::array<float, 3>;
 /// A point of a curve.
 struct Knot
 {
-    float input = 0;
-    float output = 0;
+    float input = 0;  ///< where the knot stands
+    float output = 0; ///< what the curve gives there
 };
 
 /// Straight lines between knots, whose inputs increase strictly, and level beyond the first and the last. An empty
@@ -42,7 +42,7 @@ struct LUTTable
     std::vector<Color> entries;
 
     Color domainMin{0, 0, 0}; ///< below domainMax in every channel
-    Color domainMax{1, 1, 1};
+    Color domainMax{1, 1, 1}; ///< above domainMin in every channel
 
     /// What the red, the green and the blue channel pass through before the grid.
     std::array<Curve, 3> shaper;
@@ -50,7 +50,7 @@ struct LUTTable
     bool videoRangeInput = false;  ///< the table expects colours in video range (64 to 940 in 10 bits)
     bool videoRangeOutput = false; ///< the table gives colours in video range
 
-    bool Is1D() const { return size[1] == 1 && size[2] == 1; }
+    bool Is1D() const { return size[1] == 1 && size[2] == 1; } ///< whether it is one-dimensional
 
     /// How many entries @ref size speaks of.
     std::size_t Count() const

@@ -21,7 +21,7 @@ public:
     ParseError & operator=(ParseError const &) = default;
     ~ParseError() override;
 
-    std::size_t Line() const { return m_line; }
+    std::size_t Line() const { return m_line; } ///< counts from 1
 
 private:
     std::size_t m_line;

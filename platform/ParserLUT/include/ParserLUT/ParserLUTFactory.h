@@ -10,6 +10,7 @@
 
 namespace Quoril::Proc::LUT {
 
+/// Finds the parser of a text.
 class PARSERLUT_EXPORT ParserLUTFactory
 {
 public:

@@ -7,10 +7,10 @@ namespace Quoril::Proc {
 /// A colour with its alpha, each channel from 0 to 1.
 struct ColorF
 {
-    float red = 0;
-    float green = 0;
-    float blue = 0;
-    float alpha = 0;
+    float red = 0;   ///< from 0 to 1
+    float green = 0; ///< from 0 to 1
+    float blue = 0;  ///< from 0 to 1
+    float alpha = 0; ///< from 0, not to be seen, to 1
 
     friend bool operator==(ColorF const & a, ColorF const & b)
     {

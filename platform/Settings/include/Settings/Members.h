@@ -25,6 +25,7 @@
 
 namespace Quoril::Proc {
 
+/// @cond
 /// Holds a value that has no equality of its own: copies share it and are equal, two that were made apart are not.
 template <class T> class Shared
 {
@@ -84,6 +85,8 @@ template <auto pointer> struct MemberSlot
     char const * name;
 };
 
+/// @endcond
+
 /// Members stand on the lines below that of SETTINGS_CLASS, and no further than this.
 inline constexpr int maxMemberLines = 64;
 
@@ -132,6 +135,7 @@ private:                                                                        
 private:                                                                                                               \
     SETTINGS_SLOT(#name, name)
 
+/// @cond
 // Tells the member table of a member, by an overload of `slot` for the line. __LINE__ is the same in every translation
 // unit, which a counter would not be.
 #define SETTINGS_SLOT(text, member)                                                                                    \
@@ -166,3 +170,4 @@ public:
 #define SETTINGS_ARGUMENTS_4(A, B, C, D) SETTINGS_ARGUMENTS_3(A, B, C), std::forward<D>(d)
 #define SETTINGS_ARGUMENTS_5(A, B, C, D, E) SETTINGS_ARGUMENTS_4(A, B, C, D), std::forward<E>(e)
 #define SETTINGS_ARGUMENTS_6(A, B, C, D, E, F) SETTINGS_ARGUMENTS_5(A, B, C, D, E), std::forward<F>(f)
+/// @endcond

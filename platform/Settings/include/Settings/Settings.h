@@ -54,12 +54,14 @@ protected:
             dropRecord();
         }
     }
+    /// A trace's record goes along.
     Settings(Settings const & other)
     {
         if (isAnyTraceOpen()) {
             copyRecord(other);
         }
     }
+    /// A trace's record goes along.
     Settings & operator=(Settings const & other)
     {
         if (isAnyTraceOpen()) {

@@ -42,7 +42,7 @@ class SETTINGS_EXPORT SettingsEffectFindEdges final : public Settings
     {
     };
 
-    SETTING(Params, Type, double, double) // type, intensity, sensibility
+    SETTING(Params, Type, double, double) ///< type, intensity, sensibility
 };
 
 /// Prints the picture in dots.
@@ -51,7 +51,7 @@ class SETTINGS_EXPORT SettingsEffectHalfTone final : public Settings
     SETTINGS_CLASS(SettingsEffectHalfTone)
     SETTING(BackGroundRGB, unsigned char, unsigned char, unsigned char)
     SETTING(DotRGB, unsigned char, unsigned char, unsigned char)
-    SETTING(Param, double, double, double, int) // alpha of the dots, intensity, scale, angle in degrees
+    SETTING(Param, double, double, double, int) ///< alpha of the dots, intensity, scale, angle in degrees
 };
 
 /// Splits the picture into tiles.
@@ -65,7 +65,7 @@ class SETTINGS_EXPORT SettingsEffectMosaic final : public Settings
     };
 
     SETTINGS_FIELD(type, Type)
-    SETTING(Amount, int, int) // tiles down, tiles across
+    SETTING(Amount, int, int) ///< tiles down, tiles across
     SETTING(Intensity, float)
 };
 
@@ -73,7 +73,7 @@ class SETTINGS_EXPORT SettingsEffectMosaic final : public Settings
 class SETTINGS_EXPORT SettingsEffectGlassMosaic final : public Settings
 {
     SETTINGS_CLASS(SettingsEffectGlassMosaic)
-    SETTING(Params, double, double, double, double) // angle, curve, repeats across, repeats down
+    SETTING(Params, double, double, double, double) ///< angle, curve, repeats across, repeats down
     SETTING(Intensity, float)
 };
 
@@ -87,14 +87,14 @@ class SETTINGS_EXPORT SettingsEffectErosion final : public Settings
     {
     };
 
-    SETTING(Params, double, Types) // intensity, type
+    SETTING(Params, double, Types) ///< intensity, type
 };
 
 /// Scatters the pixels.
 class SETTINGS_EXPORT SettingsEffectDiffuse final : public Settings
 {
     SETTINGS_CLASS(SettingsEffectDiffuse)
-    SETTING(Params, double, double) // level, probability
+    SETTING(Params, double, double) ///< level, probability
     SETTING(Intensity, float)
 };
 

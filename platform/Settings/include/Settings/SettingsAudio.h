@@ -14,6 +14,7 @@ class SETTINGS_EXPORT SettingsAudioEqualizer final : public Settings
 {
     SETTINGS_CLASS(SettingsAudioEqualizer)
 
+    /// One band.
     struct BandEq
     {
         std::int32_t centralFrequency = 0; ///< in hertz
@@ -29,13 +30,13 @@ class SETTINGS_EXPORT SettingsAudioGate final : public Settings
 {
     SETTINGS_CLASS(SettingsAudioGate)
     SETTING(Threshold, float)
-    SETTINGS_FIELD(detection, std::int32_t) // the level detector, 0 or 1
-    SETTINGS_FIELD(link, std::int32_t)      // how the channels are linked, 0 or 1
+    SETTINGS_FIELD(detection, std::int32_t) ///< the level detector, 0 or 1
+    SETTINGS_FIELD(link, std::int32_t)      ///< how the channels are linked, 0 or 1
     SETTING(LevelIn, float)
     SETTING(Intensity, float)
     SETTING(Ratio, float)
-    SETTING(AttackMs, float)  // in milliseconds
-    SETTING(ReleaseMs, float) // in milliseconds
+    SETTING(AttackMs, float)  ///< in milliseconds
+    SETTING(ReleaseMs, float) ///< in milliseconds
     SETTING(Makeup, float)
     SETTING(Knee, float)
 };
@@ -45,13 +46,13 @@ class SETTINGS_EXPORT SettingsAudioCompressor final : public Settings
 {
     SETTINGS_CLASS(SettingsAudioCompressor)
     SETTING(Intensity, float)
-    SETTINGS_FIELD(detection, std::int32_t) // the level detector, 0 or 1
-    SETTINGS_FIELD(link, std::int32_t)      // how the channels are linked, 0 or 1
+    SETTINGS_FIELD(detection, std::int32_t) ///< the level detector, 0 or 1
+    SETTINGS_FIELD(link, std::int32_t)      ///< how the channels are linked, 0 or 1
     SETTING(LevelIn, float)
     SETTING(Threshold, double)
     SETTING(Ratio, float)
-    SETTING(Attack, float)  // in milliseconds
-    SETTING(Release, float) // in milliseconds
+    SETTING(Attack, float)  ///< in milliseconds
+    SETTING(Release, float) ///< in milliseconds
     SETTING(Makeup, float)
     SETTING(Knee, float)
 };
@@ -61,10 +62,10 @@ class SETTINGS_EXPORT SettingsAudioFlanger final : public Settings
 {
     SETTINGS_CLASS(SettingsAudioFlanger)
     SETTING(Intensity, float)
-    SETTINGS_FIELD(shape, std::int32_t)         // of the wave, 0 or 1
-    SETTINGS_FIELD(interpolation, std::int32_t) // between samples, 0 or 1
-    SETTING(Delay, float)                       // in milliseconds
-    SETTING(Depth, float)                       // in milliseconds
+    SETTINGS_FIELD(shape, std::int32_t)         ///< of the wave, 0 or 1
+    SETTINGS_FIELD(interpolation, std::int32_t) ///< between samples, 0 or 1
+    SETTING(Delay, float)                       ///< in milliseconds
+    SETTING(Depth, float)                       ///< in milliseconds
     SETTING(Regen, float)
     SETTING(Speed, float)
     SETTING(Phase, float)
@@ -75,7 +76,7 @@ class SETTINGS_EXPORT SettingsAudioVibrato final : public Settings
 {
     SETTINGS_CLASS(SettingsAudioVibrato)
     SETTING(Intensity, float)
-    SETTING(Frequency, float) // in hertz
+    SETTING(Frequency, float) ///< in hertz
 };
 
 /// Overdrives the sound.
@@ -83,7 +84,7 @@ class SETTINGS_EXPORT SettingsAudioDistortion final : public Settings
 {
     SETTINGS_CLASS(SettingsAudioDistortion)
     SETTING(Intensity, float)
-    SETTINGS_FIELD(type, std::int32_t) // 0 to 4
+    SETTINGS_FIELD(type, std::int32_t) ///< 0 to 4
     SETTING(Tone, float)
     SETTING(Boost, float)
 };
@@ -92,9 +93,9 @@ class SETTINGS_EXPORT SettingsAudioDistortion final : public Settings
 class SETTINGS_EXPORT SettingsAudioReverberationImpulseResponse final : public Settings
 {
     SETTINGS_CLASS(SettingsAudioReverberationImpulseResponse)
-    SETTING(ReverberationTime, double) // in seconds
-    SETTING(Delay, std::int64_t)       // in milliseconds
-    SETTING(SlpfFrequency, int)        // where the low pass ends, in hertz
+    SETTING(ReverberationTime, double) ///< in seconds
+    SETTING(Delay, std::int64_t)       ///< in milliseconds
+    SETTING(SlpfFrequency, int)        ///< where the low pass ends, in hertz
     SETTINGS_FIELD(modeA, std::int32_t)
     SETTINGS_FIELD(modeB, std::int32_t)
     SETTINGS_FIELD(modeC, std::int32_t)
@@ -137,8 +138,8 @@ class SETTINGS_EXPORT SettingsAudioEcho final : public Settings
     /// One repeat.
     struct Echo
     {
-        std::int32_t delay = 0;
-        double decay = 0;
+        std::int32_t delay = 0; ///< in the engine's unit
+        double decay = 0;       ///< the share of the level that is left
     };
 
     SETTING(GainInOut, double, double)
@@ -150,7 +151,7 @@ class SETTINGS_EXPORT SettingsAudioEcho final : public Settings
 class SETTINGS_EXPORT SettingsAudioNoiseSuppress final : public Settings
 {
     SETTINGS_CLASS(SettingsAudioNoiseSuppress)
-    SETTING(Level, int) // in decibels, negative
+    SETTING(Level, int) ///< in decibels, negative
 };
 
 /// Converts the sample format.

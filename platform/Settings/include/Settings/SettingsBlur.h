@@ -20,7 +20,7 @@ class SETTINGS_EXPORT SettingsEffectBlurGaussian final : public Settings
 class SETTINGS_EXPORT SettingsEffectBokehBlur final : public Settings
 {
     SETTINGS_CLASS(SettingsEffectBokehBlur)
-    SETTING(Image, std::shared_ptr<ImageHandler const> const &) // the mask
+    SETTING(Image, std::shared_ptr<ImageHandler const> const &) ///< the mask
     SETTING(Intensity, float)
     SETTING(Params, double, double, double)
 };
@@ -36,7 +36,7 @@ class SETTINGS_EXPORT SettingsEffectMotionBlur final : public Settings
 class SETTINGS_EXPORT SettingsEffectTiltShiftQEM final : public Settings
 {
     SETTINGS_CLASS(SettingsEffectTiltShiftQEM)
-    SETTING(Params, double, double) // smoothness of the edges, intensity
+    SETTING(Params, double, double) ///< smoothness of the edges, intensity
     SETTING(UpperLine, double, double, double)
     SETTING(LowerLine, double, double, double)
 };

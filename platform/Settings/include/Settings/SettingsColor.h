@@ -75,6 +75,7 @@ class SETTINGS_EXPORT SettingsEffectGIMPHueSaturation final : public Settings
 {
     SETTINGS_CLASS(SettingsEffectGIMPHueSaturation)
 
+    /// Which colours are turned.
     enum class HueRange : std::int32_t
     {
         All = 0,
@@ -86,7 +87,7 @@ class SETTINGS_EXPORT SettingsEffectGIMPHueSaturation final : public Settings
         Magenta = 6,
     };
 
-    SETTING(Hue, HueRange, float) // the range, the turn in degrees
+    SETTING(Hue, HueRange, float) ///< the range, the turn in degrees
     SETTING(Intensity, float)
 };
 

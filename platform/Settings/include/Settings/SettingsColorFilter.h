@@ -18,7 +18,7 @@ class SETTINGS_EXPORT SettingsEffectColorBrush final : public Settings
     {
     };
 
-    SETTINGS_FIELD(angle, std::int32_t) // in degrees
+    SETTINGS_FIELD(angle, std::int32_t) ///< in degrees
     SETTINGS_FIELD(size, std::int32_t)
     SETTINGS_FIELD(rough, std::int32_t)
     SETTINGS_FIELD(type, Type)
@@ -50,7 +50,7 @@ class SETTINGS_EXPORT SettingsEffectColorMixBurn final : public Settings
 class SETTINGS_EXPORT SettingsEffectColorSelect final : public Settings
 {
     SETTINGS_CLASS(SettingsEffectColorSelect)
-    SETTING(Params, int, double, double, double) // hue tolerance, noise level, harshness, transparency
+    SETTING(Params, int, double, double, double) ///< hue tolerance, noise level, harshness, transparency
     SETTING(Intensity, float)
     SETTINGS_FIELD(red, std::uint8_t)
     SETTINGS_FIELD(green, std::uint8_t)
@@ -61,7 +61,7 @@ class SETTINGS_EXPORT SettingsEffectColorSelect final : public Settings
 class SETTINGS_EXPORT SettingsEffectColorMixExchange final : public Settings
 {
     SETTINGS_CLASS(SettingsEffectColorMixExchange)
-    SETTING(ExchangeColor, unsigned char, unsigned char, unsigned char) // red, green, blue
+    SETTING(ExchangeColor, unsigned char, unsigned char, unsigned char) ///< red, green, blue
     SETTING(Intensity, float)
 };
 
@@ -71,7 +71,7 @@ class SETTINGS_EXPORT SettingsEffectColorMixField final : public Settings
     SETTINGS_CLASS(SettingsEffectColorMixField)
     SETTING(Threshold, double)
     SETTING(Contrast, double)
-    SETTING(FieldColor, unsigned char, unsigned char, unsigned char) // red, green, blue
+    SETTING(FieldColor, unsigned char, unsigned char, unsigned char) ///< red, green, blue
 };
 
 /// Inverts the colours.

@@ -36,7 +36,7 @@ class SETTINGS_EXPORT SettingsEffectOpacity final : public Settings
 class SETTINGS_EXPORT SettingsEffectChromakey final : public Settings
 {
     SETTINGS_CLASS(SettingsEffectChromakey)
-    SETTING(Params, double, double, double, double) // hue tolerance, noise level, harshness, transparency
+    SETTING(Params, double, double, double, double) ///< hue tolerance, noise level, harshness, transparency
     SETTINGS_FIELD(red, std::uint8_t)
     SETTINGS_FIELD(green, std::uint8_t)
     SETTINGS_FIELD(blue, std::uint8_t)
@@ -49,7 +49,7 @@ class SETTINGS_EXPORT SettingsEffectColorBlender final : public Settings
     SETTINGS_CLASS(SettingsEffectColorBlender)
     SETTINGS_FIELD(blendMode, std::int32_t)
     SETTING(Intensity, float)
-    SETTING(BaseColor, std::optional<ColorF> const &) // what lies below both; without it the picture does
+    SETTING(BaseColor, std::optional<ColorF> const &) ///< what lies below both; without it the picture does
 };
 
 /// Takes the alpha of the first picture from the second.

@@ -10,7 +10,7 @@ namespace Quoril::Proc {
 class SETTINGS_EXPORT SettingsEffectTwirl final : public Settings
 {
     SETTINGS_CLASS(SettingsEffectTwirl)
-    SETTING(Params, double, double, double, double) // start and speed of the turn, start and speed of the twirl
+    SETTING(Params, double, double, double, double) ///< start and speed of the turn, start and speed of the twirl
     SETTING(Intensity, float)
 };
 
@@ -18,7 +18,7 @@ class SETTINGS_EXPORT SettingsEffectTwirl final : public Settings
 class SETTINGS_EXPORT SettingsEffectVertigo final : public Settings
 {
     SETTINGS_CLASS(SettingsEffectVertigo)
-    SETTING(Params, double, double) // scale, speed
+    SETTING(Params, double, double) ///< scale, speed
     SETTING(Intensity, double)
 };
 
@@ -36,7 +36,7 @@ class SETTINGS_EXPORT SettingsEffectLensDistortion final : public Settings
     SETTINGS_CLASS(SettingsEffectLensDistortion)
     SETTING(Intensity, double)
     SETTING(Distortion, double)
-    SETTING(MemberCount, int) // terms of the distortion's polynomial
+    SETTING(MemberCount, int) ///< terms of the distortion's polynomial
     SETTING(Zoom, double)
 };
 
@@ -44,7 +44,7 @@ class SETTINGS_EXPORT SettingsEffectLensDistortion final : public Settings
 class SETTINGS_EXPORT SettingsEffectCameraShake final : public Settings
 {
     SETTINGS_CLASS(SettingsEffectCameraShake)
-    SETTING(Settings, double, double, double, double, double) // shift in x and y, turn, frequency, persistence
+    SETTING(Settings, double, double, double, double, double) ///< shift in x and y, turn, frequency, persistence
     SETTING(Intensity, float)
 };
 

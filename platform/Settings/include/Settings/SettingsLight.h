@@ -16,13 +16,13 @@ class SETTINGS_EXPORT SettingsEffectFlyingObjects final : public Settings
 {
     SETTINGS_CLASS(SettingsEffectFlyingObjects)
     SETTING(Image, std::shared_ptr<ImageHandler const> const &)
-    SETTINGS_FIELD(paramsHead, std::array<std::int64_t, 2>) // the frame geometry of the render request
+    SETTINGS_FIELD(paramsHead, std::array<std::int64_t, 2>) ///< the frame geometry of the render request
     SETTING(Intensity, float)
     SETTING(ObjectsCount, std::uint64_t)
     SETTING(Scale, double)
     SETTINGS_FIELD(firstValue, std::int32_t)
     SETTINGS_FIELD(secondValue, std::int32_t)
-    SETTING(MoveDirection, int) // in degrees
+    SETTING(MoveDirection, int) ///< in degrees
     SETTING(MoveSpeed, double)
     SETTING(RotationSpeed, double)
     SETTING(SwingRotationSpeed, double)
@@ -64,8 +64,8 @@ class SETTINGS_EXPORT SettingsEffectVignetteFilter final : public Settings
     SETTINGS_FIELD(firstMode, std::int32_t)
     SETTINGS_FIELD(secondMode, std::int32_t)
     SETTINGS_FIELD(thirdMode, std::int32_t)
-    SETTING(Color, unsigned char, unsigned char, unsigned char, unsigned char) // red, green, blue, alpha
-    SETTING(Params, double, double, double, double) // centre in x and y, then size and softness
+    SETTING(Color, unsigned char, unsigned char, unsigned char, unsigned char) ///< red, green, blue, alpha
+    SETTING(Params, double, double, double, double) ///< centre in x and y, then size and softness
     SETTING(Intensity, float)
 };
 

@@ -20,12 +20,12 @@ class SETTINGS_EXPORT SettingsEffectMask final : public Settings
     /// A frame at one moment.
     struct FrameMask
     {
-        std::int32_t shape = 0;
-        Core::Matrix3x3 matrix; ///< places the unit frame, whose origin is the middle of the picture
-        std::int32_t method = 0;
-        double opacity = 0;
-        bool outline = false;
-        double smoothness = 0;
+        std::int32_t shape = 0;  ///< 0 a rectangle, 1 an ellipse
+        Core::Matrix3x3 matrix;  ///< places the unit frame, whose origin is the middle of the picture
+        std::int32_t method = 0; ///< of concealing: 0 fills, 1 blurs, 2 makes pixels
+        double opacity = 0;      ///< from 0 to 1
+        bool outline = false;    ///< whether its edge is drawn
+        double smoothness = 0;   ///< of its edge
     };
 
     /// Given a position in the effect, from 0 to 1 of its length, the frame there; null where there is none. The engine
@@ -33,9 +33,9 @@ class SETTINGS_EXPORT SettingsEffectMask final : public Settings
     using FrameFunctor = std::function<std::unique_ptr<FrameMask>(double)>;
 
     SETTING(FrameFunctors, std::vector<FrameFunctor>)
-    SETTING(BackGColor, float, float, float, float) // red, green, blue, alpha, from 0 to 1
-    SETTING(FrameColor, float, float, float, float) // of the outline
-    SETTINGS_FIELD(kind, std::int32_t)              // 0 conceals the frames, 1 highlights them
+    SETTING(BackGColor, float, float, float, float) ///< red, green, blue, alpha, from 0 to 1
+    SETTING(FrameColor, float, float, float, float) ///< of the outline
+    SETTINGS_FIELD(kind, std::int32_t)              ///< 0 conceals the frames, 1 highlights them
     SETTINGS_FIELD(pixelSize, double)
     SETTINGS_FIELD(backgroundOpacity, double)
     SETTINGS_FIELD(frameParameter, double)

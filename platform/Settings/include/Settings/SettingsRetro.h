@@ -38,7 +38,7 @@ class SETTINGS_EXPORT SettingsEffectRetroColors final : public Settings
 class SETTINGS_EXPORT SettingsEffectVHS final : public Settings
 {
     SETTINGS_CLASS(SettingsEffectVHS)
-    SETTING(Params, double, double, double, double) // speed, shift, smoothness, relief
+    SETTING(Params, double, double, double, double) ///< speed, shift, smoothness, relief
     SETTING(Intensity, float)
 };
 

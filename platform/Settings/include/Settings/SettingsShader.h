@@ -36,9 +36,9 @@ class SETTINGS_EXPORT SettingsEffectLUT final : public Settings
 class SETTINGS_EXPORT BaseSettingsISF : public Settings
 {
     SETTINGS_BASE(BaseSettingsISF)
-    SETTING(Config, std::string const &) // the inputs and passes, as the loader of shader files writes them
+    SETTING(Config, std::string const &) ///< the inputs and passes, as the loader of shader files writes them
     SETTING(PixelShader, std::string const &)
-    SETTING(VertexShader, std::string const &) // not set: the engine's own
+    SETTING(VertexShader, std::string const &) ///< not set: the engine's own
 };
 
 /// Runs a shader in the Interactive Shader Format over the picture.
@@ -52,7 +52,7 @@ class SETTINGS_EXPORT SettingsEffectTemplateQES final : public Settings
 {
     SETTINGS_CLASS(SettingsEffectTemplateQES)
     SETTING(Version, int)
-    SETTING(Intensity, float) // negative: the shader has none
+    SETTING(Intensity, float) ///< negative: the shader has none
     SETTING(Shader, std::string const &)
     SETTING(AuxImage, std::shared_ptr<ImageHandler const> const &)
 };

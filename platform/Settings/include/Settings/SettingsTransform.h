@@ -15,6 +15,7 @@ class SETTINGS_EXPORT SettingsEffectTransform final : public Settings
 {
     SETTINGS_CLASS(SettingsEffectTransform)
 
+    /// What the matrix does.
     enum class Mode : std::int32_t
     {
         Place = 0,
@@ -38,7 +39,7 @@ class SETTINGS_EXPORT SettingsEffectMirror final : public Settings
 class SETTINGS_EXPORT SettingsEffectFixVertVideo final : public Settings
 {
     SETTINGS_CLASS(SettingsEffectFixVertVideo)
-    SETTINGS_FIELD(geometry, std::array<std::int64_t, 2>) // the frame geometry of the render request
+    SETTINGS_FIELD(geometry, std::array<std::int64_t, 2>) ///< the frame geometry of the render request
 };
 
 } // namespace Quoril::Proc

@@ -24,6 +24,7 @@ class TraceRecorder;
 class SETTINGS_EXPORT Trace
 {
 public:
+    /// One call of a setter.
     struct Call
     {
         std::string setter;           ///< with its prefix: "SetScale"

@@ -18,17 +18,21 @@ namespace Quoril::Proc {
 class SETTINGS_EXPORT Value
 {
 public:
-    using List = std::vector<Value>;
+    using List = std::vector<Value>;                           ///< in order
     using Object = std::vector<std::pair<std::string, Value>>; ///< in the order inserted
+    /// One of these.
     using Data = std::variant<std::nullptr_t, bool, std::int64_t, double, std::string, List, Object>;
 
     Value() noexcept; ///< null
+    /// @{
+    /// A value of that kind.
     Value(std::nullptr_t) noexcept;
     Value(double number) noexcept;
     Value(char const * text);
     Value(std::string text) noexcept;
     Value(List list) noexcept;
     Value(Object object) noexcept;
+    /// @}
 
     /// A boolean or any integer. What is beyond a signed 64-bit integer becomes the nearest double.
     template <class Integer, std::enable_if_t<std::is_integral_v<Integer>, int> = 0>
@@ -36,13 +40,16 @@ public:
         : Value(Tag(), wide(number))
     {}
 
+    /// @{
+    /// Lists and objects are copied whole; what was moved from is null or of unknown content.
     Value(Value const & other);
     Value(Value && other) noexcept;
     Value & operator=(Value const & other);
     Value & operator=(Value && other) noexcept;
+    /// @}
     ~Value();
 
-    Data const & data() const { return m_data; }
+    Data const & data() const { return m_data; } ///< whichever it is
 
     /// The value as `Alternative`, one of the types of `Data`; null when it is another.
     template <class Alternative> Alternative const * as() const { return std::get_if<Alternative>(&m_data); }

@@ -1,0 +1,84 @@
+#!/usr/bin/env python3
+"""Does what docs/adding-an-effect.md says to a copy of the sources, and has the compiler check the result:
+`recipe.py SOURCES BUILD`. How each source is compiled is in the build tree's compile_commands.json."""
+
+import json
+import pathlib
+import re
+import shlex
+import shutil
+import subprocess
+import sys
+import tempfile
+
+END = "} // namespace Effect"
+COMPILED = ["effects/ColorCorrection.cpp", "effects/Identity.cpp", "serialization/ColorCorrection.cpp",
+            "collection/Effects/conversions/ColorCorrection.cpp", "collection/Effects/SettingsFactory.cpp"]
+ENGINE_HEADER = "platform/Settings/include/Settings/SettingsColor.h"
+ENGINE_END = "} // namespace Quoril::Proc\n"
+# The page tells of the tables below in words alone.
+ENGINE_CLASS = """class SETTINGS_EXPORT SettingsEffectVibrance final : public Settings
+{
+    SETTINGS_CLASS(SettingsEffectVibrance)
+    SETTING(Amount, double)
+    SETTING(Intensity, float)
+};
+"""
+IDENTIFIER = "namespace Id {{\n{0} QString const Vibrance{1};\n}}\nnamespace Tags {{\n{0} QString const tagVibrance{1};\n}}\n"
+DECLARATION = "void fill(Proc::SettingsEffectVibrance &, Vibrance const &, VideoParams const &);\n"
+
+
+def insert(path, text, place, after=False):
+    """Puts text in front of the last such place, or behind it."""
+    content = path.read_text(encoding="utf-8")
+    at = content.rindex(place) + (len(place) if after else 0)
+    path.write_text(content[:at] + text + content[at:], encoding="utf-8")
+
+
+def follow(page, root):
+    for name, text in re.findall(r", in `([\w/.]+)`[^\n]*\n\n```cpp\n(.*?)```", page, re.DOTALL):
+        insert(root / name, text, END)
+        yield name
+    entry = re.search(r"`(X\(Vibrance\))`", page)[1]
+    insert(root / "effects/ClassList.h", " " + entry, "#define EFFECTS_COLOR_CORRECTION(X)", after=True)
+    row = re.search(r"`(\{Id::Vibrance, .*?\},)`", page)[1]
+    insert(root / "collection/Effects/SettingsFactory.cpp", row, "{Id::AutoContrast,")
+    insert(root / "collection/Effects/Conversions.h", DECLARATION, "} // namespace Effect::Factory\n")
+    insert(root / "effects/Identity.h", IDENTIFIER.format("EFFECTS_API extern", ""), END)
+    insert(root / "effects/Identity.cpp", IDENTIFIER.format("", ' = QLatin1String("vibrance")'), END)
+    insert(root / ENGINE_HEADER, ENGINE_CLASS, ENGINE_END)
+
+
+def command(entry, sources, root):
+    """The entry's command for the copy, and only to check."""
+    words = shlex.split(entry["command"])
+    at = words.index("-o")
+    del words[at:at + 2]
+    words = [word.replace(f"-I{sources}/platform/Settings/include", f"-I{root}/platform/Settings/include")
+             if word.startswith("-I") else word for word in words]
+    words = [f"-I{root}" if word == f"-I{sources}" else word for word in words]
+    words = [str(root / pathlib.Path(word).relative_to(sources)) if word == entry["file"] else word for word in words]
+    return words + ["-fsyntax-only"]
+
+
+def main():
+    sources, build = (pathlib.Path(argument).resolve() for argument in sys.argv[1:3])
+    page = (sources / "docs/adding-an-effect.md").read_text(encoding="utf-8")
+    entries = {entry["file"]: entry for entry in json.loads((build / "compile_commands.json").read_text())}
+    with tempfile.TemporaryDirectory() as folder:
+        root = pathlib.Path(folder)
+        for name in ["effects", "serialization", "collection", "utils", "platform/Settings"]:
+            shutil.copytree(sources / name, root / name)
+        edited = list(follow(page, root))
+        if len(edited) != 4:
+            sys.exit(f"the page should show four sources to edit, and shows {edited}")
+        for name in COMPILED:
+            entry = entries[str(sources / name)]
+            result = subprocess.run(command(entry, sources, root), cwd=entry["directory"], text=True,
+                                    stdout=subprocess.PIPE, stderr=subprocess.STDOUT)
+            if result.returncode != 0:
+                sys.exit(f"{name} does not compile:\n{result.stdout}")
+            print(name)
+
+
+main()
