@@ -9,6 +9,9 @@ jobs=$(nproc)
 # Nothing here opens a window, and a build machine seldom has a display.
 export QT_QPA_PLATFORM="${QT_QPA_PLATFORM:-offscreen}"
 
+# Read by programs that are built with the address sanitizer, and by no others.
+export LSAN_OPTIONS="${LSAN_OPTIONS:-suppressions=$root/cmake/leaks.supp:print_suppressions=0}"
+
 say()
 {
     printf '%s: %s\n' "$(basename -- "$0")" "$*" >&2
