@@ -73,6 +73,10 @@ if(TARGET effectctl)
     INSTALL_RPATH "$ORIGIN/${lib_from_bin};$ORIGIN/${platform_from_bin}"
     INSTALL_RPATH_USE_LINK_PATH ${platform_elsewhere})
   install(TARGETS effectctl RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}" COMPONENT tool)
+  install(FILES host/effectctl.1 DESTINATION "${CMAKE_INSTALL_MANDIR}/man1" COMPONENT tool)
+  install(FILES host/completion/effectctl.bash RENAME effectctl
+    DESTINATION "${CMAKE_INSTALL_DATADIR}/bash-completion/completions" COMPONENT tool)
+  install(FILES host/completion/_effectctl DESTINATION "${CMAKE_INSTALL_DATADIR}/zsh/site-functions" COMPONENT tool)
 endif()
 
 # --- Debian packages: cmake --workflow --preset package ------------------------

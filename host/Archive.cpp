@@ -8,18 +8,36 @@ namespace Host {
 
 namespace {
 
-bool endsWith(std::string const & text, std::string const & end)
+constexpr char const * binaryForm = "bin";
+constexpr char const * jsonForm = "json";
+
+struct Options
 {
-    return text.size() >= end.size() && text.compare(text.size() - end.size(), end.size(), end) == 0;
+    std::string from;
+    std::string to;
+    std::string form;
+};
+
+/// The form that a file's suffix tells; of standard output, which has none, JSON. Empty for any other suffix.
+std::string formOf(std::string const & path)
+{
+    if (path == "-")
+        return jsonForm;
+    std::size_t const dot = path.rfind('.');
+    std::string const suffix = dot == path.npos ? "" : path.substr(dot + 1);
+    return suffix == binaryForm || suffix == jsonForm ? suffix : "";
 }
 
-void archive(std::string const & from, std::string const & to)
+void archive(Options const & options)
 {
-    auto const effect = readEffect(from);
-    if (endsWith(to, ".bin"))
-        writeFile(to, Effect::Archive::toBinary(*effect));
+    std::string const form = options.form.empty() ? formOf(options.to) : options.form;
+    if (form.empty())
+        throw CLI::ValidationError("OUT", options.to + " ends neither in .json nor in .bin, and there is no --format");
+    auto const effect = readEffect(options.from);
+    if (form == binaryForm)
+        writeFile(options.to, Effect::Archive::toBinary(*effect));
     else
-        writeFile(to, document(*effect).dump(2) + "\n");
+        writeFile(options.to, document(*effect).dump(2) + "\n");
 }
 
 } // namespace
@@ -27,17 +45,22 @@ void archive(std::string const & from, std::string const & to)
 void addArchive(CLI::App & program)
 {
     auto * const command = program.add_subcommand("archive", "Turn an archive into the other form");
-    auto const from = std::make_shared<std::string>();
-    auto const to = std::make_shared<std::string>();
-    command->add_option("IN", *from, "Archive in either form, - for standard input")->required();
-    command->add_option("OUT", *to, "File to write: its suffix, .json or .bin, says in which form")
+    auto const options = std::make_shared<Options>();
+    command->add_option("IN", options->from, "Archive in either form or item, - for standard input")
         ->required()
-        ->check([](std::string const & path) {
-            return endsWith(path, ".json") || endsWith(path, ".bin") ? std::string()
-                                                                     : path + " ends neither in .json nor in .bin";
-        });
-    setExamples(*command, "  effectctl archive crop.json crop.bin\n  effectctl archive crop.bin crop.json");
-    command->callback([from, to] { archive(*from, *to); });
+        ->option_text(" ");
+    command
+        ->add_option("OUT", options->to,
+            "File to write, - for standard output; its suffix, .json or .bin, says in which form, and - is JSON")
+        ->required()
+        ->option_text(" ");
+    command->add_option("--format", options->form, "The form to write whatever the suffix: json or bin")
+        ->option_text("FORM")
+        ->check(CLI::IsMember({jsonForm, binaryForm}));
+    setExamples(*command, "  effectctl archive crop.json crop.bin\n"
+                          "  effectctl archive crop.bin crop.json\n"
+                          "  effectctl archive - - --format bin < crop.json > crop.bin");
+    command->callback([options] { archive(*options); });
 }
 
 } // namespace Host

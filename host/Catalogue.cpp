@@ -1,4 +1,3 @@
-#include <algorithm>
 #include <chrono>
 #include <iostream>
 
@@ -10,7 +9,9 @@
 
 #include "Command.h"
 #include "Documents.h"
+#include "Files.h"
 #include "Output.h"
+#include "Progress.h"
 #include "RenderHost.h"
 
 #include <QFileInfo>
@@ -49,19 +50,15 @@ constexpr char const * holder = "holder";
 constexpr char const * failed = "failed";
 } // namespace Result
 
-/// Waits for the deliveries; on a terminal a line tells how far they are.
+/// Waits for the deliveries.
 void waitForItems(EditorCollection::ItemStorage & storage)
 {
     constexpr std::chrono::milliseconds refresh(100);
-    if (!isatty(STDERR_FILENO))
-        return storage.waitForAll();
+    Progress progress("Reading items");
     while (!storage.waitForAll(refresh)) {
-        auto const progress = storage.progress();
-        // The cursor goes back to the start of the line: what is logged meanwhile takes the place of the counter.
-        std::cerr << "Reading items: " << progress.delivered + progress.failed << " of " << progress.found << "\033[K\r"
-                  << std::flush;
+        auto const counts = storage.progress();
+        progress.show(counts.delivered + counts.failed, counts.found);
     }
-    std::cerr << "\033[K" << std::flush;
 }
 
 /// Converts one effect that is no holder. Throws a `Failure` that tells why it did not convert.
@@ -138,33 +135,34 @@ std::string counted(std::size_t count, std::string const & noun)
     return std::to_string(count) + ' ' + noun + (count == 1 ? "" : "s");
 }
 
-void printCollection(std::ostream & stream, json const & collection)
+void printCollection(json const & collection)
 {
     json const & items = collection["items"];
-    stream << collection["name"].get<std::string>() << ": " << counted(items.size(), "item") << '\n';
+    std::cout << painted(Look::Heading, collection["name"]) << ": " << counted(items.size(), "item") << '\n';
     if (items.empty())
         return;
     bool const areConverted = items[0].contains("result");
-    std::vector<std::vector<std::string>> rows{{"  CLASS", "TAG", "ID", "GROUP", "CATEGORIES", "USER"}};
+    // The margin is for people only.
+    std::string const margin = isTerminal(STDOUT_FILENO) ? "  " : "";
+    std::vector<std::vector<std::string>> rows{{margin + "CLASS", "TAG", "ID", "GROUP", "CATEGORIES", "USER"}};
     if (areConverted)
         rows.back().push_back("RESULT");
     // Quoted where it is needed, as a file may put anything into its texts.
     auto const cell = [](std::string const & text) {
         if (text.empty())
             return std::string("-");
-        bool const isPlain = std::all_of(text.begin(), text.end(), [](unsigned char byte) { return byte > ' '; });
-        return isPlain ? text : json(text).dump();
+        return text.find(' ') == text.npos ? quoted(text) : json(text).dump();
     };
     for (json const & item : items) {
         std::string categories;
         for (json const & category : item["categories"])
             categories += (categories.empty() ? "" : " ") + cell(category);
-        rows.push_back({"  " + item["class"].get<std::string>(), cell(item["tag"]), cell(item["id"]),
+        rows.push_back({margin + item["class"].get<std::string>(), cell(item["tag"]), cell(item["id"]),
             cell(item["groupId"]), categories.empty() ? "-" : categories, item["user"] ? "yes" : "no"});
         if (areConverted)
             rows.back().push_back(item["result"]);
     }
-    printTable(stream, rows);
+    printTable(rows);
 }
 
 json toJson(Summary const & summary, bool areConverted)
@@ -180,14 +178,14 @@ json toJson(Summary const & summary, bool areConverted)
     return object;
 }
 
-void printSummary(std::ostream & stream, Summary const & summary, bool areConverted)
+void printSummary(Summary const & summary, bool areConverted)
 {
-    stream << counted(summary.items, "item");
+    std::cout << counted(summary.items, "item");
     if (areConverted)
-        stream << ": " << summary.converted << " converted, " << counted(summary.descriptors, "descriptor") << ", "
-               << counted(summary.holders, "holder") << " with " << counted(summary.held, "effect")
-               << " converted each on its own, " << summary.notConverted << " not converted";
-    stream << "; " << counted(summary.unreadable, "file") << " could not be read\n";
+        std::cout << ": " << summary.converted << " converted, " << counted(summary.descriptors, "descriptor") << ", "
+                  << counted(summary.holders, "holder") << " with " << counted(summary.held, "effect")
+                  << " converted each on its own, " << summary.notConverted << " not converted";
+    std::cout << "; " << counted(summary.unreadable, "file") << " could not be read\n";
 }
 
 /// Throws a `Failure` where a folder is missing that the user named.
@@ -214,11 +212,14 @@ void catalogue(Options const & options)
     summary.unreadable = storage.progress().failed;
     json collections = json::array();
     std::vector<Failure> failures;
+    Progress progress("Converting items");
+    std::size_t const all = storage.progress().delivered;
     for (auto const * const collection : EditorCollection::CollectionProvider::collections()) {
         std::string const name = collection->name().toStdString();
         json items = json::array();
         for (auto const * const item : collection->items()) {
             json described = describe(*item);
+            progress.show(summary.items + items.size(), all);
             if (options.convert)
                 convertItem(host, item->payload(), described, summary);
             if (described.contains("reason"))
@@ -231,18 +232,18 @@ void catalogue(Options const & options)
         collections.push_back({{"name", name}, {"items", std::move(items)}});
     }
 
+    Progress::hide();
     if (options.asJson) {
-        printJson(std::cout, {{"collections", std::move(collections)}, {"summary", toJson(summary, options.convert)}});
+        printJson({{"collections", std::move(collections)}, {"summary", toJson(summary, options.convert)}});
     } else {
         for (json const & collection : collections)
-            printCollection(std::cout, collection);
-        printSummary(std::cout, summary, options.convert);
+            printCollection(collection);
+        printSummary(summary, options.convert);
     }
     for (Failure const & failure : failures)
-        complain(failure);
+        complain(failure.what());
     // What could not be read has been logged.
-    if (!failures.empty() || summary.unreadable > 0)
-        throw CLI::RuntimeError(Status::badInput);
+    endWith(failures.empty() && summary.unreadable == 0);
 }
 
 } // namespace
@@ -251,13 +252,19 @@ void addCatalogue(CLI::App & program)
 {
     auto * const command = program.add_subcommand("catalogue", "The collections of stock and user effects");
     auto const options = std::make_shared<Options>();
-    command->add_option("--stock", options->stock,
-        "Stock folder; unless given, that of the environment's EDITOR_STOCK_DIR, else the installed one");
-    command->add_option("--user", options->user,
-        "User's folder; unless given, that of the environment's EDITOR_USER_DIR, else the user's data folder");
-    command->add_flag("--json", options->asJson, "Print one JSON document");
+    command
+        ->add_option("--stock", options->stock,
+            "Stock folder; unless given, that of the environment's EDITOR_STOCK_DIR, else the installed one")
+        ->option_text("DIR");
+    command
+        ->add_option("--user", options->user,
+            "User's folder; unless given, that of the environment's EDITOR_USER_DIR, else the user's data folder")
+        ->option_text("DIR");
+    command->add_flag("--json", options->asJson, "Print one JSON document: the collections and the summary");
     command->add_flag("--convert", options->convert, "Convert every item as well, and tell which did not convert");
-    setExamples(*command, "  effectctl catalogue\n  effectctl catalogue --stock stock --convert");
+    setExamples(*command, "  effectctl catalogue\n"
+                          "  effectctl catalogue --stock stock --convert\n"
+                          "  effectctl catalogue --json | jq .summary");
     command->callback([options] { catalogue(*options); });
 }
 

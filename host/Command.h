@@ -2,8 +2,6 @@
 /// What the subcommands share.
 #pragma once
 
-#include <functional>
-#include <iostream>
 #include <stdexcept>
 #include <string>
 
@@ -24,13 +22,6 @@ class Failure : public std::runtime_error
 public:
     using std::runtime_error::runtime_error;
 };
-
-/// Tells what went wrong, in one line on standard error. A command that goes on after it ends by throwing
-/// `CLI::RuntimeError(Status::badInput)`, which says nothing more.
-inline void complain(std::exception const & error)
-{
-    std::cerr << "effectctl: " << error.what() << '\n';
-}
 
 /// @name The subcommands
 /// Each adds itself to the program and runs when it is chosen.

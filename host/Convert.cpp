@@ -21,15 +21,13 @@ using nlohmann::json;
 
 namespace {
 
-struct Options
+struct Options : FileOptions
 {
-    std::vector<std::string> files;
     std::string className;
     std::vector<std::string> changes;
     std::vector<std::string> resources;
     std::vector<std::string> tracks;
     bool batch = false;
-    bool asJson = false;
 };
 
 /// A text "NAME=VALUE" in its two halves.
@@ -63,26 +61,26 @@ void change(json & document, std::string const & pair)
     }
 }
 
-void printRecord(std::ostream & stream, json const & record)
+void printRecord(json const & record)
 {
-    stream << record["class"].get<std::string>() << ": ";
+    std::cout << painted(Look::Heading, record["class"]) << ": ";
     if (record["settings"].empty())
-        stream << "no settings\n";
+        std::cout << "no settings\n";
     else
-        stream << "stage " << record["stageCode"] << ", " << record["implementation"].get<std::string>() << '\n';
+        std::cout << "stage " << record["stageCode"] << ", " << record["implementation"].get<std::string>() << '\n';
     for (json const & settings : record["settings"]) {
-        stream << "  " << settings["class"].get<std::string>() << '\n';
+        std::cout << "  " << settings["class"].get<std::string>() << '\n';
         for (json const & call : settings["calls"]) {
-            stream << "    " << call[0].get<std::string>() << '(';
+            std::cout << "    " << call[0].get<std::string>() << '(';
             for (std::size_t index = 1; index < call.size(); ++index)
-                stream << (index > 1 ? ", " : "") << call[index].dump();
-            stream << ")\n";
+                std::cout << (index > 1 ? ", " : "") << call[index].dump();
+            std::cout << ")\n";
         }
         for (auto const & [key, value] : settings["fields"].items())
-            stream << "    " << key << " = " << value.dump() << '\n';
+            std::cout << "    " << painted(Look::Dim, key) << " = " << value.dump() << '\n';
     }
     for (json const & line : record["log"])
-        stream << "  " << line.get<std::string>() << '\n';
+        std::cout << "  " << line.get<std::string>() << '\n';
 }
 
 /// The records of the effects inside a holder, each on its own.
@@ -92,47 +90,60 @@ void convertInside(RenderHost & host, json const & holder, json & records)
         records.push_back(inside.is_null() ? json() : host.convert(*effectOf(inside), {}));
 }
 
+/// The record of an effect; that of a holder has those of the effects inside as well.
+json recordOf(RenderHost & host, Effect::Object const & effect)
+{
+    json record = host.convert(effect, {});
+    json const archived = document(effect);
+    if (isHolder(archived))
+        convertInside(host, archived, record["effects"] = json::array());
+    return record;
+}
+
+void printRecords(json const & record)
+{
+    printRecord(record);
+    if (!record.contains("effects"))
+        return;
+    std::cout << "  It holds " << record["effects"].size()
+              << (record["effects"].size() == 1 ? " effect, converted on its own:\n"
+                                                : " effects, each converted on its own:\n");
+    for (json const & inside : record["effects"]) {
+        if (inside.is_null())
+            std::cout << "(empty)\n";
+        else
+            printRecord(inside);
+    }
+}
+
 void convertFiles(RenderHost & host, Options const & options)
 {
-    json records = json::array();
-    auto const add = [&](Effect::Object const & effect) {
-        json record = host.convert(effect, {});
-        json const archived = document(effect);
-        if (isHolder(archived))
-            convertInside(host, archived, record["effects"] = json::array());
-        records.push_back(std::move(record));
-    };
-    for (std::string const & file : options.files) {
+    auto const files = expand(options.arguments, effectSuffixes);
+    auto const describe = [&host](std::string const & file) {
         auto const effect = readEffect(file);
         try {
-            add(*effect);
+            return recordOf(host, *effect);
         } catch (std::exception const & error) {
             throw Failure(file + ": " + error.what());
         }
-    }
-    if (!options.className.empty()) {
-        json archived = document(*createEffect(options.className));
-        for (std::string const & pair : options.changes)
-            change(archived, pair);
-        add(*effectOf(archived));
-    }
+    };
+    endWith(describeFiles(options, files, {"Converting", describe, [&files](json const & record) {
+                                               if (files.size() > 1)
+                                                   printFileHeading(record["file"]);
+                                               printRecords(record);
+                                           }}));
+}
 
+void convertClass(RenderHost & host, Options const & options)
+{
+    json archived = document(*createEffect(options.className));
+    for (std::string const & pair : options.changes)
+        change(archived, pair);
+    json const record = recordOf(host, *effectOf(archived));
     if (options.asJson)
-        return printJson(std::cout, records.size() == 1 ? records[0] : records);
-    for (json const & record : records) {
-        printRecord(std::cout, record);
-        if (!record.contains("effects"))
-            continue;
-        std::cout << "  It holds " << record["effects"].size()
-                  << (record["effects"].size() == 1 ? " effect, converted on its own:\n"
-                                                    : " effects, each converted on its own:\n");
-        for (json const & inside : record["effects"]) {
-            if (inside.is_null())
-                std::cout << "(empty)\n";
-            else
-                printRecord(std::cout, inside);
-        }
-    }
+        printJson(record);
+    else
+        printRecords(record);
 }
 
 template <class Number> void take(json const & object, char const * key, Number & number)
@@ -191,7 +202,7 @@ json convertRequest(RenderHost & host, json const & request)
 void convertBatch(RenderHost & host)
 {
     std::string line;
-    while (std::getline(std::cin, line)) {
+    while (std::cout && std::getline(std::cin, line)) {
         if (line.find_first_not_of(" \t\r") == line.npos)
             continue;
         json answer;
@@ -222,6 +233,8 @@ void convert(Options const & options)
     }
     if (options.batch)
         convertBatch(host);
+    else if (!options.className.empty())
+        convertClass(host, options);
     else
         convertFiles(host, options);
 }
@@ -232,25 +245,26 @@ void addConvert(CLI::App & program)
 {
     auto * const command = program.add_subcommand("convert", "The settings record that the render engine would get");
     auto const options = std::make_shared<Options>();
-    auto * const source = command->add_option_group("source")->require_option(1);
-    source->add_option("FILE", options->files, "Archives in either form, - for standard input");
-    auto * const byClass =
-        source->add_option("--class", options->className, "Default effect of this class, such as Effect::Blur");
-    source->add_flag(
+    auto * const files = addFiles(*command, *options, "Archives in either form or items");
+    auto * const batch = command->add_flag(
         "--batch", options->batch, "Read a JSON request a line from standard input and answer each with a line");
-    command->add_option("--set", options->changes, "KEY=VALUE: change a field of the default effect")
+    auto * const byClass = addClass(*command, options->className, {files, batch});
+    command->add_option("--set", options->changes, "Change a field of the default effect of --class")
+        ->option_text("KEY=VALUE ...")
         ->needs(byClass)
         ->check(checkPair);
-    command
-        ->add_option(
-            "--resource", options->resources, "NAME=FILE: make a file the resource of that name, whatever asks for it")
+    command->add_option("--resource", options->resources, "Make a file the resource of that name, whatever asks for it")
+        ->option_text("NAME=FILE ...")
         ->check(checkPair);
-    command->add_option("--track", options->tracks, "ID=FILE: make a file the motion track of that identifier")
+    command->add_option("--track", options->tracks, "Make a file the motion track of that identifier")
+        ->option_text("ID=FILE ...")
         ->check(checkPair);
-    command->add_flag("--json", options->asJson, "Print one JSON document");
+    command->add_flag("--json", options->asJson, std::string(filesAsJson) + "; for --class, the object alone");
     setExamples(*command,
         "  effectctl convert blur.json\n"
         "  effectctl convert --class Effect::Blur --set intensity=20\n"
+        "  effectctl convert --json stock/ColorFilters 'more/*.json'\n"
+        "  effectctl show --class Effect::Crop --json | effectctl convert -\n"
         "  echo '{\"class\": \"Effect::Blur\", \"object\": {\"intensity\": 20}}' | effectctl convert --batch");
     command->callback([options] { convert(*options); });
 }

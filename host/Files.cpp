@@ -1,26 +1,108 @@
 #include "Files.h"
 
+#include <algorithm>
 #include <cstdio>
+#include <filesystem>
 #include <iostream>
 
+#include <glob.h>
+#include <unistd.h>
+
 #include <EditorModel/EffectArchive.h>
+#include <EditorSerialization/JsonArchive.h>
+#include <EditorUtil/ItemFile.h>
 
 #include "Command.h"
+#include "Documents.h"
+#include "Output.h"
+#include "Progress.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QSaveFile>
 
 namespace Host {
 
+using nlohmann::json;
+namespace fs = std::filesystem;
+
+std::vector<std::string> const effectSuffixes{".json", ".bin"};
+
 namespace {
 
 constexpr char const * standardStream = "-";
-constexpr qint64 largestFile = qint64(256) << 20; // bytes
+constexpr char const * trackSuffix = ".track.json"; ///< motion tracks lie beside effects and are none
+constexpr qint64 largestFile = qint64(256) << 20;   // bytes
 constexpr std::string_view binaryStart = "EEAR";
 
 [[noreturn]] void fail(std::string const & path, QFileDevice const & file)
 {
     throw Failure(path + ": " + file.errorString().toStdString());
+}
+
+/// An archive document names its class at the top, an item holds one.
+bool isItem(json const & document)
+{
+    return document.is_object() && document.contains("effect") &&
+           !document.contains(Serialize::Json::MetaDetails::s_meta);
+}
+
+std::unique_ptr<Effect::Object> readDocument(std::string const & path, std::string const & text)
+{
+    if (!isItem(Serialize::Json::parse(text)))
+        return Effect::Archive::fromJson(text);
+    QString const folder = QFileInfo(path == standardStream ? QString() : QString::fromStdString(path)).absolutePath();
+    auto const item = EditorCollection::parseItem(text, folder.toStdString());
+    // The item keeps its effect, and effects are copied through their documents.
+    return effectOf(document(item->payload()));
+}
+
+bool endsInOneOf(std::string const & name, std::vector<std::string> const & suffixes)
+{
+    QString const text = QString::fromStdString(name);
+    return std::any_of(suffixes.begin(), suffixes.end(), [&text](std::string const & suffix) {
+        return text.endsWith(QString::fromStdString(suffix), Qt::CaseInsensitive);
+    });
+}
+
+std::string joined(std::vector<std::string> const & words, std::string const & between)
+{
+    std::string text;
+    for (std::string const & word : words)
+        text += (text.empty() ? "" : between) + word;
+    return text;
+}
+
+void addFolder(std::string const & folder, std::vector<std::string> const & suffixes, std::vector<File> & files)
+{
+    std::error_code error;
+    std::vector<std::string> names;
+    fs::recursive_directory_iterator entry(folder, error);
+    for (; !error && entry != fs::recursive_directory_iterator(); entry.increment(error)) {
+        std::error_code ignored;
+        std::string const name = entry->path().filename().native();
+        if (endsInOneOf(name, suffixes) && !endsInOneOf(name, {trackSuffix}) && entry->is_regular_file(ignored))
+            names.push_back(entry->path().native());
+    }
+    std::sort(names.begin(), names.end());
+    for (std::string & name : names)
+        files.push_back({std::move(name), {}});
+    if (error)
+        files.push_back({folder, folder + ": " + error.message()});
+    else if (names.empty())
+        files.push_back({folder, folder + ": no file in this folder ends in " + joined(suffixes, " or ")});
+}
+
+std::vector<std::string> matchesOf(std::string const & pattern)
+{
+    glob_t found{};
+    std::vector<std::string> names;
+    // Unsorted, as it would sort by the user's language.
+    if (glob(pattern.c_str(), GLOB_NOSORT, nullptr, &found) == 0)
+        names.assign(found.gl_pathv, found.gl_pathv + found.gl_pathc);
+    globfree(&found);
+    std::sort(names.begin(), names.end());
+    return names;
 }
 
 } // namespace
@@ -57,10 +139,111 @@ std::unique_ptr<Effect::Object> readEffect(std::string const & path)
     std::string const bytes = readFile(path);
     try {
         bool const isBinary = std::string_view(bytes).substr(0, binaryStart.size()) == binaryStart;
-        return isBinary ? Effect::Archive::fromBinary(bytes) : Effect::Archive::fromJson(bytes);
+        return isBinary ? Effect::Archive::fromBinary(bytes) : readDocument(path, bytes);
     } catch (std::exception const & error) {
         throw Failure(path + ": " + error.what());
     }
+}
+
+std::vector<File> expand(std::vector<std::string> const & arguments, std::vector<std::string> const & suffixes)
+{
+    std::vector<File> files;
+    auto const add = [&](std::string const & name) {
+        std::error_code ignored;
+        if (fs::is_directory(name, ignored))
+            addFolder(name, suffixes, files);
+        else
+            files.push_back({name, {}});
+    };
+    for (std::string const & argument : arguments) {
+        std::error_code ignored;
+        bool const isPattern =
+            argument.find_first_of("*?[") != argument.npos && !fs::exists(fs::symlink_status(argument, ignored));
+        if (!isPattern) {
+            add(argument);
+            continue;
+        }
+        auto const matches = matchesOf(argument);
+        if (matches.empty())
+            files.push_back({argument, argument + ": no file matches"});
+        for (std::string const & match : matches)
+            add(match);
+    }
+    return files;
+}
+
+CLI::Option * addFiles(CLI::App & command, FileOptions & options, std::string const & what)
+{
+    return command
+        .add_option("FILE", options.arguments,
+            what + ", folders of them, quoted patterns such as 'folder/*', or - for standard input")
+        ->option_text("...");
+}
+
+CLI::Option * addClass(CLI::App & command, std::string & className, std::vector<CLI::Option *> const & others)
+{
+    auto * const option =
+        command.add_option("--class", className, "Default effect of this class, such as Effect::Blur")
+            ->option_text("NAME");
+    auto sources = others;
+    sources.push_back(option);
+    command.parse_complete_callback([sources] {
+        std::vector<std::string> names;
+        std::size_t given = 0;
+        for (CLI::Option const * const source : sources) {
+            names.push_back(source->get_name());
+            given += source->count() > 0 ? 1 : 0;
+        }
+        if (given != 1)
+            throw CLI::ValidationError("exactly one of " + joined(names, ", ") + " is required");
+    });
+    return option;
+}
+
+void printFileHeading(std::string const & file)
+{
+    std::cout << painted(Look::Heading, quoted(file) + ':') << '\n';
+}
+
+bool describeFiles(FileOptions const & options, std::vector<File> const & files, FileTask const & task)
+{
+    json documents = json::array();
+    bool allDone = true;
+    Progress progress(task.work);
+    for (std::size_t index = 0; index < files.size(); ++index) {
+        File const & file = files[index];
+        progress.show(index, files.size());
+        json described;
+        try {
+            if (!file.error.empty())
+                throw Failure(file.error);
+            described = task.describe(file.name);
+            described["file"] = asText(file.name);
+        } catch (std::exception const & error) {
+            complain(error.what());
+            described = {{"file", asText(file.name)}, {"error", asText(error.what())}};
+            allDone = false;
+        }
+        if (options.asJson) {
+            documents.push_back(std::move(described));
+        } else if (!described.contains("error")) {
+            Progress::hide();
+            task.print(described);
+            // Who watches is not to wait for the rest; anybody else gets it in large pieces.
+            if (isTerminal(STDOUT_FILENO))
+                std::cout.flush();
+        }
+    }
+    Progress::hide();
+    if (options.asJson)
+        printJson(documents);
+    return allDone;
+}
+
+void endWith(bool allDone)
+{
+    if (!allDone)
+        throw CLI::RuntimeError(Status::badInput);
 }
 
 } // namespace Host

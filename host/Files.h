@@ -1,22 +1,87 @@
 /// @file
-/// Files and effects in them.
+/// Files, effects in them, and what commands that take any number of them share.
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include <EditorModel/EffectObject.h>
 
+#include <CLI/CLI.hpp>
+#include <nlohmann/json.hpp>
+
 namespace Host {
 
-/// The bytes of a file, or of standard input for "-". Throws a `Failure` that names the file and says why.
+/// @name One file
+/// "-" is standard input or output. A `Failure` names the file and says why.
+/// @{
+
+/// The bytes of a file.
 std::string readFile(std::string const & path);
 
-/// Writes a file whole or not at all: a crash leaves the old one or the new one. "-" is standard output.
+/// Writes a file whole or not at all: a crash leaves the old one or the new one.
 void writeFile(std::string const & path, std::string_view bytes);
 
-/// The effect in a file of either form, told apart by its first bytes. Throws a `Failure` that names the file.
+/// The effect in an archive of either form or in an item of the catalogue, told apart by what is in the file. What an
+/// item's effect refers to stands beside the file: the resource path comes out absolute.
 std::unique_ptr<Effect::Object> readEffect(std::string const & path);
+
+/// @}
+
+/// Suffixes of the files that `readEffect` reads.
+extern std::vector<std::string> const effectSuffixes;
+
+/// One of the files that the arguments of a command name.
+struct File
+{
+    std::string name;
+    std::string error; ///< why an argument names none; `name` is the argument then
+};
+
+/// The files that arguments name, in their order:
+/// - a file that exists, and "-": itself;
+/// - a folder: the files in it and in the folders in it that end in one of the suffixes, in either case, sorted;
+/// - anything else with a wildcard (`*`, `?`, `[`) in it: what matches, sorted, with the files of folders;
+/// - anything else: itself, which will fail to be read.
+std::vector<File> expand(std::vector<std::string> const & arguments, std::vector<std::string> const & suffixes);
+
+/// What commands know that take any number of files.
+struct FileOptions
+{
+    std::vector<std::string> arguments;
+    bool asJson = false;
+};
+
+/// How such a command treats one.
+struct FileTask
+{
+    std::string work;                                            ///< what it does, such as "Converting"
+    std::function<nlohmann::json(std::string const &)> describe; ///< what there is to say of a file, an object
+    std::function<void(nlohmann::json const &)> print;           ///< says it; "file" in it is the file
+};
+
+/// Adds FILE to a command.
+/// @param what  what kind of files, as the help says it
+CLI::Option * addFiles(CLI::App & command, FileOptions & options, std::string const & what);
+
+/// What `--json` means there, as the help says it.
+constexpr char const * filesAsJson = "Print one JSON document, an array with an object for each file";
+
+/// Adds `--class` to a command that takes one source: files, a class, or what else excludes it.
+CLI::Option * addClass(CLI::App & command, std::string & className, std::vector<CLI::Option *> const & others);
+
+/// Heads what is printed of one file among several.
+void printFileHeading(std::string const & file);
+
+/// Describes every file and prints it, or all of them as one array when a document is asked for. A file that cannot be
+/// done is told and keeps no other from being done; it has its place and its error in the document.
+/// @return whether all could be done
+bool describeFiles(FileOptions const & options, std::vector<File> const & files, FileTask const & task);
+
+/// Ends the command with status 1 unless all went well. What did not has been told.
+void endWith(bool allDone);
 
 } // namespace Host

@@ -1,5 +1,3 @@
-#include <iostream>
-
 #include <EditorSerialization/Registry.h>
 
 #include "Command.h"
@@ -46,7 +44,7 @@ void list(bool asJson)
     for (std::string const & name : Serialize::Registry::names())
         classes.push_back(describe(name));
     if (asJson)
-        return printJson(std::cout, classes);
+        return printJson(classes);
 
     std::vector<std::vector<std::string>> rows{{"CLASS", "BASE", "TAG", "FIELDS"}};
     for (json const & entry : classes) {
@@ -56,7 +54,7 @@ void list(bool asJson)
         rows.push_back({entry["class"], entry["base"].is_null() ? "-" : entry["base"].get<std::string>(),
             entry["tag"].is_null() || entry["tag"] == "" ? "-" : entry["tag"].get<std::string>(), fields});
     }
-    printTable(std::cout, rows);
+    printTable(rows);
 }
 
 } // namespace
@@ -65,8 +63,11 @@ void addList(CLI::App & program)
 {
     auto * const command = program.add_subcommand("list", "Every class that can stand in an archive");
     auto const asJson = std::make_shared<bool>(false);
-    command->add_flag("--json", *asJson, "Print one JSON document");
-    setExamples(*command, "  effectctl list\n  effectctl list --json");
+    command->add_flag("--json", *asJson, "Print one JSON document, an array with an object for each class");
+    setExamples(*command,
+        "  effectctl list\n"
+        "  effectctl list | cut -f 1                     (off a terminal, tabs stand between the columns)\n"
+        "  effectctl list --json | jq '.[] | select(.isTwoInput) | .class'");
     command->callback([asJson] { list(*asJson); });
 }
 

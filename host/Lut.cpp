@@ -1,4 +1,3 @@
-#include <iostream>
 #include <memory>
 #include <string>
 #include <vector>
@@ -28,7 +27,7 @@ json describe(std::string const & file)
         throw Failure(file + ": it begins like no format of lookup tables");
     if (!table)
         throw Failure(file + ": " + error.toStdString());
-    return {{"file", asText(file)}, {"format", table->format}, {"size", table->size}, {"title", asText(table->title)}};
+    return {{"format", table->format}, {"size", table->size}, {"title", asText(table->title)}};
 }
 
 std::string sizeText(json const & size)
@@ -37,29 +36,16 @@ std::string sizeText(json const & size)
     return is1D ? size[0].dump() : size[0].dump() + 'x' + size[1].dump() + 'x' + size[2].dump();
 }
 
-/// One bad file does not keep the others from being told.
-void lut(std::vector<std::string> const & files, bool asJson)
+void lut(FileOptions const & options)
 {
-    json tables = json::array();
     std::vector<std::vector<std::string>> rows{{"FILE", "FORMAT", "SIZE", "TITLE"}};
-    bool failed = false;
-    for (std::string const & file : files) {
-        try {
-            json const & table = tables.emplace_back(describe(file));
-            // Quoted, as a file may put anything into it.
-            rows.push_back({table["file"], table["format"], sizeText(table["size"]), table["title"].dump()});
-        } catch (std::exception const & error) {
-            complain(error);
-            tables.push_back({{"file", asText(file)}, {"error", asText(error.what())}});
-            failed = true;
-        }
-    }
-    if (asJson)
-        printJson(std::cout, tables);
-    else if (rows.size() > 1)
-        printTable(std::cout, rows);
-    if (failed)
-        throw CLI::RuntimeError(Status::badInput);
+    bool const allDone = describeFiles(options, expand(options.arguments, {".cube", ".3dl", ".spi3d", ".csp"}),
+        {"Reading tables", describe, [&rows](json const & table) {
+             rows.push_back({quoted(table["file"]), table["format"], sizeText(table["size"]), table["title"].dump()});
+         }});
+    if (rows.size() > 1)
+        printTable(rows);
+    endWith(allDone);
 }
 
 } // namespace
@@ -68,13 +54,14 @@ void addLut(CLI::App & program)
 {
     auto * const command =
         program.add_subcommand("lut", "Format, size and title of lookup tables, or what is wrong with them");
-    auto const files = std::make_shared<std::vector<std::string>>();
-    auto const asJson = std::make_shared<bool>(false);
-    command->add_option("FILE", *files, "Lookup tables in any format that the editor reads, - for standard input")
-        ->required();
-    command->add_flag("--json", *asJson, "Print one JSON document, an array with an object for each file");
-    setExamples(*command, "  effectctl lut warm.cube\n  effectctl lut --json luts/*");
-    command->callback([files, asJson] { lut(*files, *asJson); });
+    auto const options = std::make_shared<FileOptions>();
+    addFiles(*command, *options, "Lookup tables in any format that the editor reads")->required();
+    command->add_flag("--json", options->asJson, filesAsJson);
+    setExamples(*command, "  effectctl lut warm.cube\n"
+                          "  effectctl lut --json luts/*\n"
+                          "  effectctl lut stock/Luts\n"
+                          "  effectctl lut - < warm.cube");
+    command->callback([options] { lut(*options); });
 }
 
 } // namespace Host

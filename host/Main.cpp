@@ -1,12 +1,17 @@
+#include <cerrno>
 #include <cstdlib>
+#include <cstring>
 #include <iostream>
 
+#include <fcntl.h>
+#include <unistd.h>
+
 #include "Command.h"
+#include "Messages.h"
+#include "Output.h"
 
 #include <QString>
 #include <QtGlobal>
-
-#include <glog/logging.h>
 
 namespace {
 
@@ -14,18 +19,68 @@ namespace {
 void handleMessage(QtMsgType, QMessageLogContext const &, QString const & message)
 {
     if (!message.startsWith(QLatin1String("QStandardPaths: ")))
-        std::cerr << "effectctl: " << message.toStdString() << '\n';
+        Host::complain(message.toStdString());
+}
+
+/// Puts something unusable in the place of a standard stream that is closed: the next file that is opened would take
+/// it.
+void fillClosedStreams()
+{
+    // Those below are open by then, so each opens as itself.
+    for (int const descriptor : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO})
+        if (fcntl(descriptor, F_GETFD) < 0)
+            open("/dev/null", descriptor == STDIN_FILENO ? O_WRONLY : O_RDONLY);
+}
+
+/// The status, unless results were lost on their way out.
+int finished(int status, int error)
+{
+    if (error == 0)
+        return status;
+    // When nobody reads on, nobody is to be told.
+    if (error != EPIPE)
+        Host::complain(std::string("standard output: ") + std::strerror(error));
+    return Host::Status::badInput;
+}
+
+/// One line: what is wrong, and where to read on.
+std::string usageFailure(CLI::App const & program, CLI::Error const & error)
+{
+    std::string command = "effectctl";
+    std::string reason = error.what();
+    if (auto const chosen = program.get_subcommands(); !chosen.empty())
+        command += ' ' + chosen.front()->get_name();
+    else if (auto const rest = program.remaining(); !rest.empty())
+        reason = "there is no command or option \"" + rest.front() + '"';
+    return reason + "; see " + command + " --help";
+}
+
+int run(CLI::App & program, int argc, char ** argv)
+{
+    try {
+        program.parse(argc, argv);
+        return Host::Status::done;
+    } catch (CLI::RuntimeError const & error) {
+        // Whoever threw it has told why.
+        return error.get_exit_code();
+    } catch (CLI::ParseError const & error) {
+        if (error.get_exit_code() == 0)
+            return program.exit(error);
+        Host::complain(usageFailure(program, error));
+        return Host::Status::wrongUsage;
+    } catch (std::exception const & error) {
+        Host::complain(error.what());
+        return Host::Status::badInput;
+    }
 }
 
 } // namespace
 
 int main(int argc, char ** argv)
 {
-    // The library's messages go where ours go, and into no file.
-    FLAGS_log_prefix = false;
-    google::InitGoogleLogging(argv[0]);
-    for (google::LogSeverity severity = 0; severity < google::NUM_SEVERITIES; ++severity)
-        google::SetLogDestination(severity, "");
+    fillClosedStreams();
+    Host::StandardOutput output;
+    Host::startMessages(argv[0], Host::complain);
     qInstallMessageHandler(handleMessage);
     // Pictures are read, and nothing is shown.
     setenv("QT_QPA_PLATFORM", "offscreen", 0);
@@ -40,18 +95,14 @@ int main(int argc, char ** argv)
     Host::addCatalogue(program);
     Host::addLut(program);
     Host::addTool(program);
-
-    try {
-        program.parse(argc, argv);
-    } catch (CLI::RuntimeError const & error) {
-        // Whoever threw it has told why.
-        return error.get_exit_code();
-    } catch (CLI::ParseError const & error) {
-        return program.exit(error) == 0 ? Host::Status::done : Host::Status::wrongUsage;
-    } catch (std::exception const & error) {
-        Host::complain(error);
-        return Host::Status::badInput;
-    }
-    std::cout.flush();
-    return std::cout ? Host::Status::done : Host::Status::badInput;
+    Host::setExamples(program,
+        "  effectctl list\n"
+        "  effectctl show --class Effect::Crop\n"
+        "  effectctl convert --class Effect::Blur --set intensity=20\n"
+        "  effectctl catalogue --convert\n"
+        "\n"
+        "More about a command: effectctl COMMAND --help\n"
+        "Status: 0 done, 1 bad input, 2 wrong usage. NO_COLOR in the environment switches colours off.");
+    int const status = run(program, argc, argv);
+    return finished(status, output.flush());
 }

@@ -1,25 +1,82 @@
 /// @file
-/// Printing for people and for programs.
+/// Printing for people and for programs. Nothing else knows of terminals and colours.
+///
+/// Standard output that is a terminal gets aligned tables and, unless the environment forbids them, colours; anything
+/// else gets plain text, in which the cells of a table stand between tabs.
 #pragma once
 
-#include <iosfwd>
+#include <streambuf>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include <nlohmann/json.hpp>
 
 namespace Host {
 
+/// @name Terminals
+/// @{
+
+/// Whether the file behind the descriptor is a terminal.
+bool isTerminal(int descriptor);
+
+/// Whether it is one on which a line can be written over: not when `TERM` is "dumb" or missing.
+bool hasCursor(int descriptor);
+
+/// @}
+
+enum class Look
+{
+    Plain,
+    Heading,
+    Dim
+};
+
+/// The text as standard output shows it in that look: the same where that has no colours.
+std::string painted(Look look, std::string const & text);
+
+/// What `std::cout` writes into while it lives. Unlike the stream's own buffer it knows why it could not write.
+class StandardOutput final : private std::streambuf
+{
+public:
+    StandardOutput();
+    ~StandardOutput() override;
+    StandardOutput(StandardOutput const &) = delete;
+    StandardOutput & operator=(StandardOutput const &) = delete;
+
+    /// Writes what has not been written yet. Returns the `errno` of the first failure ever, or 0.
+    int flush();
+
+private:
+    int_type overflow(int_type unit) override;
+    int sync() override;
+
+    std::streambuf * m_previous;
+    std::vector<char> m_buffer;
+    int m_error = 0;
+};
+
+/// Tells what went wrong, in one line on standard error.
+void complain(std::string_view reason);
+
 /// The same with a replacement character for every byte that is no UTF-8: a document has no place for it.
 std::string asText(std::string const & bytes);
 
-/// One JSON document, indented, with a line end.
-void printJson(std::ostream & stream, nlohmann::json const & document);
+/// A text that may hold anything, as a line can bear it: a JSON text where there are control characters in it.
+std::string quoted(std::string const & text);
 
-/// Rows of cells, in columns as wide as their widest cell. The first row is the heading.
-void printTable(std::ostream & stream, std::vector<std::vector<std::string>> const & rows);
+/// @name On standard output
+/// @{
+
+/// One JSON document, indented, with a line end.
+void printJson(nlohmann::json const & document);
+
+/// Rows of cells. The first row is the heading.
+void printTable(std::vector<std::vector<std::string>> const & rows);
 
 /// An archive document as an indented list of keys and values, base classes run together with the class.
-void printDocument(std::ostream & stream, nlohmann::json const & document, int indent = 0);
+void printDocument(nlohmann::json const & document, int indent = 0);
+
+/// @}
 
 } // namespace Host

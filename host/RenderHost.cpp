@@ -6,33 +6,15 @@
 #include <Settings/Settings.h>
 #include <Settings/Trace.h>
 
-#include <QGuiApplication>
+#include "Messages.h"
 
-#include <glog/logging.h>
+#include <QGuiApplication>
 
 namespace Host {
 
 using nlohmann::json;
 
 namespace {
-
-/// Takes the library's messages while it lives.
-class Messages final : private google::LogSink
-{
-public:
-    Messages() { google::AddLogSink(this); }
-    ~Messages() override { google::RemoveLogSink(this); }
-
-    json lines = json::array();
-
-private:
-    void send(google::LogSeverity severity, char const *, char const *, int, tm const *, char const * message,
-        std::size_t length) override
-    {
-        if (severity >= google::GLOG_ERROR)
-            lines.push_back(std::string(message, length));
-    }
-};
 
 json toJson(Quoril::Proc::Value const & value)
 {
@@ -103,9 +85,7 @@ RenderHost::~RenderHost() = default;
 
 json RenderHost::convert(Effect::Object const & effect, RenderParams const & params)
 {
-    // What is logged goes into the record, and nowhere else.
-    FLAGS_stderrthreshold = google::NUM_SEVERITIES;
-    Messages messages;
+    Messages messages; // what is logged goes into the record, and nowhere else
     Quoril::Proc::Trace const trace;
     bool const isAudio = params.as.value_or(effect.type()) == Effect::Type::Audio;
     auto const record = isAudio ? Effect::Factory::audioEffectSettings(effect, params.audio)

@@ -7,23 +7,51 @@
 
 namespace Host {
 
+using nlohmann::json;
+
 namespace {
 
-struct Options
+struct Options : FileOptions
 {
-    std::string file;
     std::string className;
-    bool asJson = false;
 };
+
+/// A document by itself, as it is an archive and can be read as one.
+void showJson(std::vector<File> const & files)
+{
+    if (files.size() > 1)
+        throw Failure("--json shows one effect, and these are " + std::to_string(files.size()) + " files");
+    if (!files[0].error.empty())
+        throw Failure(files[0].error);
+    printJson(document(*readEffect(files[0].name)));
+}
+
+void showFiles(Options const & options)
+{
+    auto const files = expand(options.arguments, effectSuffixes);
+    if (options.asJson)
+        return showJson(files);
+    endWith(describeFiles(options, files,
+        {"Reading",
+            [](std::string const & file) {
+                return json{{"document", document(*readEffect(file))}};
+            },
+            [&files](json const & described) {
+                if (files.size() > 1)
+                    printFileHeading(described["file"]);
+                printDocument(described["document"]);
+            }}));
+}
 
 void show(Options const & options)
 {
-    nlohmann::json const archived =
-        options.className.empty() ? document(*readEffect(options.file)) : document(*create(options.className));
+    if (options.className.empty())
+        return showFiles(options);
+    json const archived = document(*create(options.className));
     if (options.asJson)
-        printJson(std::cout, archived);
+        printJson(archived);
     else
-        printDocument(std::cout, archived);
+        printDocument(archived);
 }
 
 } // namespace
@@ -32,11 +60,13 @@ void addShow(CLI::App & program)
 {
     auto * const command = program.add_subcommand("show", "An effect, readable");
     auto const options = std::make_shared<Options>();
-    auto * const source = command->add_option_group("source")->require_option(1);
-    source->add_option("FILE", options->file, "Archive in either form, - for standard input");
-    source->add_option("--class", options->className, "Default effect of this class, such as Effect::Crop");
-    command->add_flag("--json", options->asJson, "Print the archive document");
-    setExamples(*command, "  effectctl show crop.json\n  effectctl show --class Effect::Crop --json");
+    auto * const files = addFiles(*command, *options, "Archives in either form or items");
+    addClass(*command, options->className, {files});
+    command->add_flag("--json", options->asJson, "Print the archive document, of one effect");
+    setExamples(*command, "  effectctl show crop.json\n"
+                          "  effectctl show --class Effect::Crop --json\n"
+                          "  effectctl show 'stock/Masks/*.effect.json'\n"
+                          "  effectctl archive crop.bin - | effectctl show -");
     command->callback([options] { show(*options); });
 }
 

@@ -102,7 +102,7 @@ TEST_F(CatalogueCommand, PrintsTables)
     fill();
     auto const run = effectctl(arguments());
     EXPECT_EQ(run.status, 0) << run.errors;
-    EXPECT_THAT(run.output, StartsWith("Effects: 2 items\n  CLASS"));
+    EXPECT_THAT(run.output, StartsWith("Effects: 2 items\nCLASS\tTAG\t"));
     EXPECT_THAT(run.output, HasSubstr("\nShader effects: 0 items\n"));
     EXPECT_THAT(run.output, HasSubstr("\nAudioEnhance: 1 item\n"));
     EXPECT_THAT(run.output, HasSubstr("category_a category_b"));
@@ -197,6 +197,8 @@ TEST_F(CatalogueCommand, QuotesWhatAFilePutsIntoATable)
 class ToolCommand : public CatalogueCommand
 {
 protected:
+    QString const heading = "FILE\tCLASS\tTOOL\tNAME\n";
+
     /// Writes the default effect of a class.
     QString archive(char const * name) const
     {
@@ -215,7 +217,9 @@ TEST_F(ToolCommand, TellsTheTool)
     auto const run = effectctl({"tool", crop, denoise, opacity});
     EXPECT_EQ(run.status, 0) << run.errors;
     EXPECT_EQ(run.output,
-        (crop + ": 5, crop\n" + denoise + ": 17, audio noise reduction\n" + opacity + ": 0, no tool\n").toStdString());
+        (heading + crop + "\tEffect::Crop\t5\tcrop\n" + denoise +
+            "\tEffect::AudioAiDenoise\t17\taudio noise reduction\n" + opacity + "\tEffect::Opacity\t0\tno tool\n")
+            .toStdString());
     json const document = json::parse(effectctl({"tool", "--json", crop}).output);
     EXPECT_EQ(document,
         (json::array({{{"file", crop.toStdString()}, {"class", "Effect::Crop"}, {"tool", 5}, {"name", "crop"}}})));
@@ -226,9 +230,11 @@ TEST_F(ToolCommand, AsksTheStocksAudioEffects)
     QString const mono = archive("AudioMonoChannel");
     storeItem(stock() + "/AudioEffects", "mono", AudioMonoChannel());
     qputenv("EDITOR_STOCK_DIR", user().toUtf8());
-    EXPECT_EQ(effectctl({"tool", mono}).output, (mono + ": 0, no tool\n").toStdString());
+    EXPECT_EQ(
+        effectctl({"tool", mono}).output, (heading + mono + "\tEffect::AudioMonoChannel\t0\tno tool\n").toStdString());
     qputenv("EDITOR_STOCK_DIR", stock().toUtf8());
-    EXPECT_EQ(effectctl({"tool", mono}).output, (mono + ": 15, audio effects\n").toStdString());
+    EXPECT_EQ(effectctl({"tool", mono}).output,
+        (heading + mono + "\tEffect::AudioMonoChannel\t15\taudio effects\n").toStdString());
     qunsetenv("EDITOR_STOCK_DIR");
 }
 
@@ -237,7 +243,7 @@ TEST_F(ToolCommand, GoesOnBehindABadFile)
     QString const crop = archive("Crop");
     auto const run = effectctl({"tool", path("nowhere"), crop});
     EXPECT_EQ(run.status, 1);
-    EXPECT_EQ(run.output, (crop + ": 5, crop\n").toStdString());
+    EXPECT_EQ(run.output, (heading + crop + "\tEffect::Crop\t5\tcrop\n").toStdString());
     EXPECT_EQ(run.errors, "effectctl: " + path("nowhere").toStdString() + ": No such file or directory\n");
     EXPECT_EQ(effectctl({"tool"}).status, 2);
 }

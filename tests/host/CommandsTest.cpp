@@ -1,11 +1,13 @@
 #include <EditorModel/EffectArchive.h>
 #include <effects/Effects.h>
 
+#include <algorithm>
 #include <map>
 #include <sstream>
 
 #include "Effectctl.h"
 
+#include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 
@@ -17,6 +19,7 @@ namespace {
 using nlohmann::json;
 using Testing::effectctl;
 using testing::HasSubstr;
+using Testing::shell;
 using testing::StartsWith;
 
 std::vector<json> batch(QByteArray const & requests)
@@ -73,13 +76,38 @@ TEST(Usage, WrongUsageEndsWithTwo)
     }
 }
 
-TEST(Usage, EveryCommandHasHelpWithExamples)
+TEST(Usage, WrongUsageIsOneLineThatLeadsToTheHelp)
 {
-    for (char const * const command : {"list", "show", "archive", "convert", "lut"}) {
-        auto const run = effectctl({command, "--help"});
-        EXPECT_EQ(run.status, 0);
-        EXPECT_THAT(run.output, HasSubstr(std::string("effectctl ") + command)) << command;
-    }
+    EXPECT_EQ(effectctl({}).errors, "effectctl: A subcommand is required; see effectctl --help\n");
+    EXPECT_EQ(effectctl({"nonsense"}).errors,
+        "effectctl: there is no command or option \"nonsense\"; see effectctl --help\n");
+    EXPECT_EQ(
+        effectctl({"show"}).errors, "effectctl: exactly one of FILE, --class is required; see effectctl show --help\n");
+    EXPECT_EQ(effectctl({"convert", "--batch", "--class", "Effect::Blur"}).errors,
+        "effectctl: exactly one of FILE, --batch, --class is required; see effectctl convert --help\n");
+    EXPECT_EQ(effectctl({"archive", "a.json", "b.txt"}).errors,
+        "effectctl: OUT: b.txt ends neither in .json nor in .bin, and there is no --format; see effectctl archive "
+        "--help\n");
+}
+
+TEST(Output, LosingItIsToldWithItsReason)
+{
+    auto const full = shell("$effectctl list >/dev/full");
+    EXPECT_EQ(full.status, 1);
+    EXPECT_EQ(full.errors, "effectctl: standard output: No space left on device\n");
+    auto const closed = shell("$effectctl convert --class Effect::Blur --json >&-");
+    EXPECT_EQ(closed.status, 1);
+    EXPECT_EQ(closed.errors, "effectctl: standard output: Bad file descriptor\n");
+}
+
+TEST(Output, AReaderThatLeavesIsNoFault)
+{
+    auto const run = shell("$effectctl list | head -n 1");
+    EXPECT_EQ(run.output, "CLASS\tBASE\tTAG\tFIELDS\n");
+    EXPECT_EQ(run.errors, "");
+    // Nor where the signal that ends such a program is held back.
+    auto const held = shell("trap '' PIPE; (sleep 0.2; $effectctl list) | true");
+    EXPECT_EQ(held.errors, "");
 }
 
 TEST(ListCommand, DescribesEveryClass)
@@ -151,6 +179,149 @@ TEST_F(FilesTest, BadFilesAreOneLineAndLoseNothing)
     EXPECT_THAT(effectctl({"show", "--class", "Effect::None"}).errors, HasSubstr("there is no class"));
 }
 
+TEST_F(FilesTest, StandardStreamsStandWhereFilesDo)
+{
+    std::string const text = Effect::Archive::toJson(Effect::Opacity());
+    std::string const bytes = Effect::Archive::toBinary(Effect::Opacity());
+    QByteArray const input = QByteArray::fromStdString(bytes);
+    EXPECT_EQ(json::parse(effectctl({"archive", "-", "-"}, input).output), json::parse(text));
+    EXPECT_EQ(effectctl({"archive", "-", "-", "--format", "bin"}, QByteArray::fromStdString(text)).output, bytes);
+    EXPECT_EQ(effectctl({"archive", "-", path("out.json")}, input).status, 0);
+    EXPECT_EQ(json::parse(read("out.json")), json::parse(text));
+    EXPECT_EQ(effectctl({"archive", "-", path("out.dat"), "--format", "bin"}, input).status, 0);
+    EXPECT_EQ(read("out.dat"), bytes);
+    EXPECT_EQ(effectctl({"archive", "-", "-", "--format", "xml"}, input).status, 2);
+    EXPECT_EQ(json::parse(effectctl({"show", "--json", "-"}, input).output), json::parse(text));
+    EXPECT_EQ(json::parse(effectctl({"convert", "--json", "-"}, input).output)[0]["class"], "Effect::Opacity");
+    EXPECT_EQ(json::parse(effectctl({"tool", "--json", "-"}, input).output)[0]["file"], "-");
+    EXPECT_EQ(shell("$effectctl show - <&-").errors, "effectctl: -: Bad file descriptor\n");
+}
+
+TEST_F(FilesTest, ItemsAreReadLikeArchives)
+{
+    Effect::Lut lut;
+    lut.resourcePath = "table.cube";
+    json const item{{"categories", {"category_x"}}, {"effect", json::parse(Effect::Archive::toJson(lut))}};
+    QString const file = write("mine.effect.json", item.dump());
+    // What lies beside the item is found from anywhere.
+    write("table.cube", "LUT_3D_SIZE 2\n0 0 0\n0 0 0\n0 0 0\n0 0 0\n0 0 0\n0 0 0\n0 0 0\n0 0 0\n");
+    json const shown = json::parse(effectctl({"show", "--json", file}).output);
+    EXPECT_EQ(shown["Effect::VideoEffect"]["Effect::Object"]["resourcePath"], path("table.cube").toStdString());
+    auto const converted = effectctl({"convert", "--json", file});
+    EXPECT_EQ(converted.status, 0) << converted.errors;
+    EXPECT_THAT(converted.output, HasSubstr("\"size\""));
+    EXPECT_EQ(json::parse(effectctl({"tool", "--json", file}).output)[0]["class"], "Effect::Lut");
+    QString const bad = write("bad.effect.json", R"({"effect": {"$meta": {"class": "Effect::Crop"}, "transform": 5}})");
+    EXPECT_EQ(effectctl({"show", bad}).errors, "effectctl: " + bad.toStdString() +
+                                                   ": in \"effect\": an object is expected, found number, at "
+                                                   "/transform\n");
+}
+
+/// A folder with effects in it and in a folder in it, and with what is no effect.
+class ManyFilesTest : public FilesTest
+{
+protected:
+    void SetUp() override
+    {
+        QDir(folder.path()).mkdir("in");
+        crop = write("b.json", Effect::Archive::toJson(Effect::Crop()));
+        opacity = write("a.BIN", Effect::Archive::toBinary(Effect::Opacity()));
+        blur = write("in/c.json", Effect::Archive::toJson(Effect::Blur()));
+        write("d.txt", "no effect");
+        write("e.track.json", R"({"frames": []})");
+    }
+
+    /// The files of a document, with "!" behind those that could not be done.
+    static std::vector<std::string> filesOf(Testing::Run const & run)
+    {
+        std::vector<std::string> names;
+        for (json const & entry : json::parse(run.output))
+            names.push_back(entry["file"].get<std::string>() + (entry.contains("error") ? "!" : ""));
+        return names;
+    }
+
+    static auto are(std::vector<QString> const & files)
+    {
+        std::vector<std::string> names;
+        for (QString const & file : files)
+            names.push_back(file.toStdString());
+        return testing::ElementsAreArray(names);
+    }
+
+    QString crop;
+    QString opacity;
+    QString blur;
+};
+
+TEST_F(ManyFilesTest, FoldersStandForTheFilesInThem)
+{
+    for (char const * const command : {"convert", "tool"})
+        EXPECT_THAT(filesOf(effectctl({command, "--json", folder.path()})), are({opacity, crop, blur})) << command;
+    EXPECT_EQ(effectctl({"show", folder.path()}).status, 0);
+    write("f.CUBE", "LUT_1D_SIZE 2\n0 0 0\n1 1 1\n");
+    write("in/g.3dl", "0 1023\n");
+    EXPECT_THAT(filesOf(effectctl({"lut", "--json", folder.path()})), are({path("f.CUBE"), path("in/g.3dl!")}));
+}
+
+TEST_F(ManyFilesTest, PatternsStandForTheFilesThatMatch)
+{
+    EXPECT_THAT(filesOf(effectctl({"convert", "--json", path("*.json"), path("[a]*")})),
+        are({crop, path("e.track.json!"), opacity}));
+    EXPECT_THAT(filesOf(effectctl({"convert", "--json", path("i?")})), are({blur}));
+    // A file of that very name comes first.
+    QString const odd = write("*.json", Effect::Archive::toJson(Effect::Crop()));
+    EXPECT_THAT(filesOf(effectctl({"convert", "--json", odd})), are({odd}));
+}
+
+TEST_F(ManyFilesTest, NamingNothingIsBadInput)
+{
+    QDir(folder.path()).mkdir("empty");
+    auto const run = effectctl({"tool", path("x*"), path("empty"), crop});
+    EXPECT_EQ(run.status, 1);
+    EXPECT_EQ(run.errors, "effectctl: " + path("x*").toStdString() + ": no file matches\neffectctl: " +
+                              path("empty").toStdString() + ": no file in this folder ends in .json or .bin\n");
+    EXPECT_THAT(run.output, HasSubstr("b.json\tEffect::Crop\t5\tcrop\n"));
+    EXPECT_EQ(effectctl({"show", "--json", path("empty")}).status, 1);
+}
+
+TEST_F(ManyFilesTest, ABrokenFileKeepsNoOtherFromBeingDone)
+{
+    QString const broken = write("broken.json", "{");
+    for (QStringList const & command :
+        {QStringList{"show"}, QStringList{"convert"}, QStringList{"convert", "--json"}}) {
+        auto const run = effectctl(command + QStringList{broken, crop});
+        EXPECT_EQ(run.status, 1);
+        EXPECT_EQ(std::count(run.errors.begin(), run.errors.end(), '\n'), 1) << run.errors;
+        EXPECT_THAT(run.errors, StartsWith("effectctl: " + broken.toStdString() + ": "));
+        EXPECT_THAT(run.output, HasSubstr("Effect::Crop"));
+    }
+}
+
+TEST_F(ManyFilesTest, TheFormOfADocumentDoesNotHangOnTheNumberOfFiles)
+{
+    for (char const * const command : {"convert", "tool"}) {
+        json const one = json::parse(effectctl({command, "--json", crop}).output);
+        json const two = json::parse(effectctl({command, "--json", crop, opacity}).output);
+        ASSERT_TRUE(one.is_array());
+        EXPECT_EQ(one[0], two[0]);
+        EXPECT_EQ(two.size(), 2U);
+    }
+    // One class gives its record alone, one file's document is an archive.
+    EXPECT_EQ(json::parse(effectctl({"convert", "--json", "--class", "Effect::Crop"}).output)["class"], "Effect::Crop");
+    EXPECT_EQ(json::parse(effectctl({"show", "--json", crop}).output), json::parse(read("b.json")));
+    auto const several = effectctl({"show", "--json", crop, opacity});
+    EXPECT_EQ(several.status, 1);
+    EXPECT_EQ(several.errors, "effectctl: --json shows one effect, and these are 2 files\n");
+}
+
+TEST_F(ManyFilesTest, SeveralFilesHaveHeadings)
+{
+    EXPECT_THAT(effectctl({"show", crop, opacity}).output, StartsWith(crop.toStdString() + ":\nEffect::Crop\n"));
+    EXPECT_THAT(effectctl({"show", crop}).output, StartsWith("Effect::Crop\n"));
+    EXPECT_THAT(
+        effectctl({"convert", crop, opacity}).output, HasSubstr("\n" + opacity.toStdString() + ":\nEffect::Opacity: "));
+}
+
 TEST_F(FilesTest, ConvertTellsTheCalls)
 {
     auto const run = effectctl({"convert", "--class", "Effect::Blur", "--set", "intensity=20"});
@@ -173,8 +344,8 @@ TEST_F(FilesTest, ConvertTakesAHolderApart)
                                       "Effect::AudioMonoChannel: stage 1, DEFAULT\n"
                                       "  SettingsFilterResample\n    channelCount = 1\n(empty)\n"));
     json const document = json::parse(effectctl({"convert", "--json", file}).output);
-    EXPECT_EQ(document["effects"][0]["settings"][0]["fields"]["channelCount"], 1);
-    EXPECT_EQ(document["effects"][1], json());
+    EXPECT_EQ(document[0]["effects"][0]["settings"][0]["fields"]["channelCount"], 1);
+    EXPECT_EQ(document[0]["effects"][1], json());
 }
 
 TEST(BatchConversion, AnswersInTheDocumentedForm)

@@ -1,0 +1,79 @@
+# Completion of effectctl in bash. Names of classes come from the program itself.
+
+# The words of the line so far are told apart by blanks alone: bash would part the names of classes at their colons.
+_effectctl()
+{
+    local line=${COMP_LINE:0:COMP_POINT} word previous command='' index
+    local -a words
+    COMPREPLY=()
+    read -ra words <<<"$line"
+    [[ $line == *[[:blank:]] ]] && words+=('')
+    word=${words[-1]}
+    previous=${words[-2]}
+    for ((index = 1; index < ${#words[@]} - 1; ++index)); do
+        [[ ${words[index]} == -* ]] && continue
+        command=${words[index]}
+        break
+    done
+
+    # --class=NAME is completed as --class NAME is.
+    if [[ $word == --*=* ]]; then
+        previous=${word%%=*}
+        word=${word#*=}
+    fi
+
+    local options=--help
+    case $command in
+        '')
+            _effectctl_words "--help --version list show archive convert catalogue lut tool"
+            return ;;
+        list) options+=' --json' ;;
+        show) options+=' --class --json' ;;
+        archive) options+=' --format' ;;
+        convert) options+=' --batch --class --set --resource --track --json' ;;
+        catalogue) options+=' --stock --user --json --convert' ;;
+        lut | tool) options+=' --json' ;;
+        *) return ;;
+    esac
+
+    case $previous in
+        --class)
+            _effectctl_words "$("${words[0]}" list 2>/dev/null | tail -n +2 | cut -f 1)"
+            return ;;
+        --format)
+            _effectctl_words "json bin"
+            return ;;
+        --stock | --user)
+            compopt -o filenames 2>/dev/null
+            mapfile -t COMPREPLY < <(compgen -d -- "$word")
+            return ;;
+        --set) return ;;
+        --resource | --track)
+            [[ $word == *=* ]] && _effectctl_files "${word#*=}"
+            return ;;
+    esac
+    if [[ $word == -* ]]; then
+        _effectctl_words "$options"
+    elif [[ $command != list && $command != catalogue ]]; then
+        _effectctl_files "$word"
+    fi
+}
+
+# Those of the words that begin as the current one. Where bash parts words at colons, it replaces only what is behind
+# the last.
+_effectctl_words()
+{
+    mapfile -t COMPREPLY < <(compgen -W "$1" -- "$word")
+    if [[ $word == *:* && $COMP_WORDBREAKS == *:* ]]; then
+        local before=${word%"${word##*:}"}
+        COMPREPLY=("${COMPREPLY[@]#"$before"}")
+    fi
+}
+
+_effectctl_files()
+{
+    compopt -o filenames 2>/dev/null
+    mapfile -t COMPREPLY < <(compgen -f -- "$1")
+}
+
+complete -F _effectctl effectctl
