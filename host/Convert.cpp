@@ -6,6 +6,7 @@
 #include <EditorModel/Resource.h>
 #include <EditorSerialization/JsonArchive.h>
 #include <Settings/Trace.h>
+#include <utils/EffectUtils.h>
 
 #include "Command.h"
 #include "Documents.h"
@@ -121,17 +122,20 @@ void convertFiles(RenderHost & host, Options const & options)
     auto const files = expand(options.arguments, effectSuffixes);
     auto const describe = [&host](std::string const & file) {
         auto const effect = readEffect(file);
+        // As the catalogue does with its items. A file that was given for the resource comes first.
+        Effect::Utils::registerEffectResource(*effect);
         try {
             return recordOf(host, *effect);
         } catch (std::exception const & error) {
             throw Failure(file + ": " + error.what());
         }
     };
-    endWith(describeFiles(options, files, {"Converting", describe, [&files](json const & record) {
-                                               if (files.size() > 1)
-                                                   printFileHeading(record["file"]);
-                                               printRecords(record);
-                                           }}));
+    auto const print = [&files](json const & record) {
+        if (files.size() > 1)
+            printFileHeading(record["file"]);
+        printRecords(record);
+    };
+    endWith(describeFiles(options, files, {"Converting", describe, print, true}));
 }
 
 void convertClass(RenderHost & host, Options const & options)
@@ -259,7 +263,8 @@ void addConvert(CLI::App & program)
     command->add_option("--track", options->tracks, "Make a file the motion track of that identifier")
         ->option_text("ID=FILE ...")
         ->check(checkPair);
-    command->add_flag("--json", options->asJson, std::string(filesAsJson) + "; for --class, the object alone");
+    command->add_flag(
+        "--json", options->asJson, std::string(filesAsJson) + "; for --class or a single file, the object alone");
     setExamples(*command,
         "  effectctl convert blur.json\n"
         "  effectctl convert --class Effect::Blur --set intensity=20\n"

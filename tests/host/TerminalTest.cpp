@@ -97,7 +97,7 @@ TEST_F(TerminalTest, ErrorsAreRed)
         onTerminal({"lut", "nowhere"}, {{{"NO_COLOR", "1"}}, {}}), "effectctl: nowhere: No such file or directory\r\n");
     EXPECT_EQ(effectctl({"lut", "nowhere"}).errors, "effectctl: nowhere: No such file or directory\n");
     // A name cannot colour or break the line.
-    EXPECT_EQ(effectctl({"lut", "a\x1b[31m\nb"}).errors, "effectctl: a?[31m?b: No such file or directory\n");
+    EXPECT_EQ(effectctl({"lut", "a\x1b\nb"}).errors, "effectctl: a??b: No such file or directory\n");
 }
 
 /// The program waits for the pipe in the middle, which makes its work long.

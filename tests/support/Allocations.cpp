@@ -26,11 +26,17 @@ std::size_t allocationCount()
 
 } // namespace Testing
 
-void * operator new(std::size_t size)
+// The operators for arrays call these by themselves.
+void * operator new(std::size_t size, std::nothrow_t const &) noexcept
 {
     bytes += size;
     ++count;
-    if (void * const memory = std::malloc(size != 0 ? size : 1))
+    return std::malloc(size != 0 ? size : 1);
+}
+
+void * operator new(std::size_t size)
+{
+    if (void * const memory = operator new(size, std::nothrow))
         return memory;
     throw std::bad_alloc();
 }
