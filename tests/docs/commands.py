@@ -2,8 +2,8 @@
 """Runs the commands of a document: `commands.py DOCUMENT FOLDER`, the folder being that of effectctl.
 
 The blocks marked `sh` run one after the other in one shell, in an empty folder, and the first command that fails ends
-it. Every line of a block marked `text` must be among the lines that the block before it printed. A block behind a
-comment that begins with `not run:` is left out.
+it. Every line of a block marked `text` must be among the lines that the block before it printed, tables being aligned
+there as on a terminal. A block behind a comment that begins with `not run:` is left out.
 """
 
 import os
@@ -30,6 +30,11 @@ def blocks(document):
     return found
 
 
+def words(line):
+    """The line with its margin, and single blanks in it."""
+    return re.sub(r"(?<=\S)\s+", " ", line)
+
+
 def run(commands, folder):
     """What the block prints. The folder and its files remain for the next one."""
     result = subprocess.run(["bash", "-euo", "pipefail", "-c", commands], cwd=folder, stdin=subprocess.DEVNULL,
@@ -50,7 +55,8 @@ def main():
             status, output = run(commands, folder)
             if status != 0:
                 sys.exit(f"{path}:{line}: ended with {status} and printed\n{output}")
-            missing = [text for text in expected if text not in output.splitlines()]
+            printed = {words(text) for text in output.splitlines()}
+            missing = [text for text in expected if words(text) not in printed]
             if missing:
                 sys.exit(f"{path}:{line}: did not print\n" + "\n".join(missing) + f"\nbut\n{output}")
     print(f"{len(found)} blocks, {sum(len(expected) for _, _, expected in found)} lines of output")
