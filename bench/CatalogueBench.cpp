@@ -98,15 +98,16 @@ void deliver(benchmark::State & state)
     Settings::setStockRoot(stock.root());
     Settings::setUserRoot(stock.root() + "/user");
     for (auto _ : state) {
-        ItemStorage storage(static_cast<unsigned>(state.range(1)));
-        CollectionProvider::setItemStorage(&storage);
+        auto storage = std::make_unique<ItemStorage>(static_cast<unsigned>(state.range(1)));
+        CollectionProvider::setItemStorage(storage.get());
         auto provider = std::make_unique<Effect::ContentProvider>();
-        storage.waitForAll();
+        storage->waitForAll();
         state.PauseTiming();
         if (CollectionProvider::collection("Effects")->items().size() != stock.paths.size())
             state.SkipWithError("items are missing");
         provider.reset();
         CollectionProvider::setItemStorage(nullptr);
+        storage.reset();
         state.ResumeTiming();
     }
     state.SetItemsProcessed(state.iterations() * state.range(0));
@@ -131,13 +132,14 @@ void startUp(benchmark::State & state)
     Settings::setUserRoot(stock.root() + "/user");
     for (auto _ : state) {
         state.PauseTiming();
-        ItemStorage storage;
-        CollectionProvider::setItemStorage(&storage);
+        auto storage = std::make_unique<ItemStorage>();
+        CollectionProvider::setItemStorage(storage.get());
         state.ResumeTiming();
         auto provider = std::make_unique<Effect::ContentProvider>();
         state.PauseTiming();
         provider.reset();
         CollectionProvider::setItemStorage(nullptr);
+        storage.reset();
         state.ResumeTiming();
     }
 }

@@ -32,13 +32,14 @@ bool isItemFile(std::string const & name)
            name.compare(name.size() - itemFileSuffix.size(), itemFileSuffix.size(), itemFileSuffix) == 0;
 }
 
-/// The item files of a folder, sorted. Throws when it cannot be listed.
-std::vector<std::string> listFolder(std::string const & folder)
+/// The item files of a folder, sorted. Throws when it cannot be listed, and gives up when nobody wants it any more: a
+/// folder may be large, and whoever ends the storage waits for it.
+std::vector<std::string> listFolder(std::string const & folder, std::atomic<bool> const & isDropped)
 {
     std::vector<std::string> names;
     std::error_code error;
     std::filesystem::directory_iterator entry(folder, error);
-    for (; !error && entry != std::filesystem::directory_iterator(); entry.increment(error)) {
+    for (; !error && !isDropped && entry != std::filesystem::directory_iterator(); entry.increment(error)) {
         std::string name = entry->path().filename().native();
         if (isItemFile(name))
             names.push_back(std::move(name));
@@ -119,7 +120,7 @@ public:
     {
         std::lock_guard const lock(m_mutex);
         m_loads.push_back(std::move(load));
-        m_changed.notify_all();
+        m_work.notify_all();
     }
 
     template <class Predicate> void drop(Predicate const & isMeant)
@@ -137,9 +138,9 @@ public:
             dropped.push_back(m_delivered);
         for (auto const & load : dropped)
             load->dropped = true;
-        m_changed.notify_all();
+        wake();
         if (!isInCallback())
-            m_changed.wait(lock, [this] { return !m_delivered || !m_delivered->dropped; });
+            m_ended.wait(lock, [this] { return !m_delivered || !m_delivered->dropped; });
     }
 
     template <class Wait> bool waitForAll(Wait const & wait)
@@ -147,7 +148,7 @@ public:
         std::unique_lock lock(m_mutex);
         if (isInCallback())
             throw std::logic_error("a callback of the item storage would wait for itself");
-        return wait(lock, m_changed, [this] { return m_loads.empty() && m_batches.empty() && !m_delivered; });
+        return wait(lock, m_ended, [this] { return isIdle(); });
     }
 
     Progress progress() const { return {m_foundCount, m_deliveredCount, m_failedCount}; }
@@ -160,7 +161,7 @@ private:
         {
             std::lock_guard const lock(m_mutex);
             m_ending = true;
-            m_changed.notify_all();
+            m_work.notify_all();
         }
         for (std::thread & thread : m_threads)
             thread.join();
@@ -179,7 +180,7 @@ private:
             else if (!m_loads.empty() && m_loads.front()->listed && m_batches.size() < maxBatches)
                 read(lock);
             else
-                m_changed.wait(lock);
+                m_work.wait(lock);
         }
     }
 
@@ -200,7 +201,9 @@ private:
         lock.lock();
         m_delivered.reset();
         m_deliverer = {};
-        m_changed.notify_all();
+        if (batch.load->dropped)
+            m_ended.notify_all();
+        wake();
         // The last owner of the callback may be the batch, and the callback may do anything when it goes.
         lock.unlock();
         batch.load.reset();
@@ -231,7 +234,7 @@ private:
         std::vector<std::string> names;
         std::vector<Outcome> outcomes;
         try {
-            names = listFolder(load->folder);
+            names = listFolder(load->folder, load->dropped);
         } catch (std::exception const & error) {
             outcomes.emplace_back().error = report(load->folder, error.what());
         }
@@ -245,7 +248,7 @@ private:
                 m_batches.push_back({load, std::move(outcomes), true});
             forgetHandedOut();
         }
-        m_changed.notify_all();
+        wake();
     }
 
     /// Reads the next files of the first load, without the lock.
@@ -266,7 +269,7 @@ private:
         lock.lock();
         batch.outcomes = std::move(outcomes);
         batch.ready = true;
-        m_changed.notify_all();
+        m_work.notify_all();
     }
 
     /// Takes the first load off the list when every file of it is in a batch.
@@ -276,10 +279,21 @@ private:
             m_loads.pop_front();
     }
 
+    bool isIdle() const { return m_loads.empty() && m_batches.empty() && !m_delivered; }
+
+    /// Has the threads look for work, and tells those who wait for the last of it.
+    void wake()
+    {
+        m_work.notify_all();
+        if (isIdle())
+            m_ended.notify_all();
+    }
+
     bool isInCallback() const { return m_deliverer == std::this_thread::get_id(); }
 
     mutable std::mutex m_mutex;
-    std::condition_variable m_changed;
+    std::condition_variable m_work;            ///< there may be something to do
+    std::condition_variable m_ended;           ///< everything is done, or what was dropped is no longer delivered
     std::deque<std::shared_ptr<Load>> m_loads; ///< in the order made; those after the first are not begun
     std::deque<Batch> m_batches;               ///< in the order of delivery
     std::shared_ptr<Load> m_delivered;         ///< whose batch is being delivered; null when none is
@@ -319,17 +333,16 @@ void ItemStorage::stop()
 
 void ItemStorage::waitForAll()
 {
-    m_loader->waitForAll([](auto & lock, auto & changed, auto const & isDone) {
-        changed.wait(lock, isDone);
+    m_loader->waitForAll([](auto & lock, auto & ended, auto const & isDone) {
+        ended.wait(lock, isDone);
         return true;
     });
 }
 
 bool ItemStorage::waitForAll(std::chrono::milliseconds timeout)
 {
-    return m_loader->waitForAll([timeout](auto & lock, auto & changed, auto const & isDone) {
-        return changed.wait_for(lock, timeout, isDone);
-    });
+    return m_loader->waitForAll(
+        [timeout](auto & lock, auto & ended, auto const & isDone) { return ended.wait_for(lock, timeout, isDone); });
 }
 
 ItemStorage::Progress ItemStorage::progress() const
