@@ -91,15 +91,17 @@ BENCHMARK(parseFiles)
     ->UseRealTime()
     ->Complexity(benchmark::oN);
 
-/// From the construction of the provider to the last delivery, with so many threads.
+/// From the construction of the provider to the last delivery, out of a storage with so many threads.
 void deliver(benchmark::State & state)
 {
     Stock const & stock = stockOf(state.range(0));
     Settings::setStockRoot(stock.root());
     Settings::setUserRoot(stock.root() + "/user");
     for (auto _ : state) {
+        state.PauseTiming();
         auto storage = std::make_unique<ItemStorage>(static_cast<unsigned>(state.range(1)));
         CollectionProvider::setItemStorage(storage.get());
+        state.ResumeTiming();
         auto provider = std::make_unique<Effect::ContentProvider>();
         storage->waitForAll();
         state.PauseTiming();
