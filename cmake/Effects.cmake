@@ -73,6 +73,9 @@ if(NOT CMAKE_DISABLE_PRECOMPILE_HEADERS)
   target_precompile_headers(EditorEffectsObjects PRIVATE
     <EditorModel/EffectObject.h> <EditorSerialization/BinaryArchive.h> <EditorSerialization/JsonArchive.h>
     <EditorSerialization/ObjectTracker.h> <boost/serialization/export.hpp>)
+  # g++ knows the headers in there again by the times of their files, so one that ccache keeps from another checkout
+  # makes it read them a second time.
+  set_target_properties(EditorEffectsObjects PROPERTIES CXX_COMPILER_LAUNCHER "")
 endif()
 
 add_library(EditorEffects SHARED $<TARGET_OBJECTS:EditorEffectsObjects>)
