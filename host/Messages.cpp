@@ -65,7 +65,6 @@ Messages::Messages()
     : m_sink(std::make_unique<Sink>(lines))
 {
     areTaken = true;
-    FLAGS_stderrthreshold = google::NUM_SEVERITIES;
 }
 
 Messages::~Messages()

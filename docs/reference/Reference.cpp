@@ -16,14 +16,13 @@
 
 #include <boost/core/demangle.hpp>
 
-#include <glog/logging.h>
-
 #include <collection/Effects/Conversions.h>
 #include <EditorModel/CollectionProvider.h>
 #include <EditorSettings/Settings.h>
 #include <EditorUtil/ItemStorage.h>
 #include <effects/ClassList.h>
 #include <host/Documents.h>
+#include <host/Messages.h>
 #include <host/RenderHost.h>
 #include <host/ToolName.h>
 #include <utils/EffectUtils.h>
@@ -305,9 +304,7 @@ int main(int argc, char ** argv)
     program.add_option("--stock", stock, "The folder of stock content")->required();
     program.add_option("--check", current, "Compare the page with this file, instead of printing it");
     CLI11_PARSE(program, argc, argv);
-    google::InitGoogleLogging(argv[0]);
-    for (google::LogSeverity severity = 0; severity < google::NUM_SEVERITIES; ++severity)
-        google::SetLogDestination(severity, "");
+    Host::startMessages(argv[0], [](std::string_view message) { std::cerr << message << '\n'; });
     setenv("QT_QPA_PLATFORM", "offscreen", 0);
     try {
         std::string const page = makePage(QString::fromStdString(stock));
