@@ -227,8 +227,8 @@ BinaryIArchive::Loaded BinaryIArchive::loadPointed()
 
     Loaded loaded{Registry::create(type->name), nullptr};
     if (!loaded.object)
-        throw ArchiveError(
-            ArchiveError::unregistered_class, "unregistered class - \"" + type->name + "\" cannot be made by name");
+        throw ArchiveError(ArchiveError::unregistered_class,
+            "unregistered class - \"" + std::string(type->name) + "\" cannot be made by name");
     DepthGuard const guard(m_depth, [this](std::string const & problem) { m_bytes.fail(problem); });
     type->serializer->load_object_data(*this, dynamic_cast<void *>(loaded.object.get()), type->version);
     if (type->tracked)
@@ -244,8 +244,8 @@ void BinaryIArchive::readClassInformation(Detail::InputClass & type)
     m_bytes.read(type.version);
     if (type.version > classVersion(*type.serializer))
         throw ArchiveError(ArchiveError::unsupported_class_version,
-            "the class " + type.name + " has the version " + std::to_string(type.version) + ", before byte " +
-                std::to_string(m_bytes.offset()));
+            "the class " + std::string(type.name) + " has the version " + std::to_string(type.version) +
+                ", before byte " + std::to_string(m_bytes.offset()));
     type.announced = true;
 }
 

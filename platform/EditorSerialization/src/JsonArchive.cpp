@@ -24,6 +24,20 @@ namespace {
 // references may be this many values (a text counts its length besides), and no more.
 constexpr std::size_t maxCopied = std::size_t(1) << 24;
 
+/// The value of a key; null when there is none. The text is a view since the comparisons would each measure a `char *`.
+json const * member(json const & value, std::string_view key)
+{
+    auto const found = value.find(key);
+    return found == value.end() ? nullptr : &*found;
+}
+
+/// What the meta object of a value says under a key; null when it says nothing.
+json const * metaMember(json const & value, std::string_view key)
+{
+    json const * const meta = member(value, s_meta);
+    return meta ? member(*meta, key) : nullptr;
+}
+
 /// Builds the tree of a text, as the library's own builder does, and counts the depth on the way.
 class TreeBuilder
 {
@@ -40,7 +54,9 @@ public:
     bool start_object(std::size_t) { return open(json::value_t::object); }
     bool key(json::string_t & key)
     {
-        m_slot = &(*m_stack.back())[std::move(key)];
+        // The keys of a document that was written here come in order.
+        auto & object = m_stack.back()->get_ref<json::object_t &>();
+        m_slot = &object.emplace_hint(object.end(), std::move(key), nullptr)->second;
         return true;
     }
     bool end_object() { return close(); }
@@ -96,13 +112,8 @@ std::unordered_map<std::int64_t, json const *> numberedObjects(json const & docu
             continue;
         for (json const & inner : value)
             open.push_back(&inner);
-        if (!value.is_object())
-            continue;
-        auto const meta = value.find(s_meta);
-        if (meta == value.end() || !meta->is_object())
-            continue;
-        auto const id = meta->find(s_id);
-        if (id == meta->end() || !id->is_number_integer())
+        json const * const id = metaMember(value, s_id);
+        if (!id || !id->is_number_integer())
             continue;
         if (!objects.emplace(id->get<std::int64_t>(), &value).second)
             throw ArchiveError(
@@ -143,13 +154,8 @@ json parse(std::string_view text)
 
 std::optional<std::int64_t> getReferenceObjectId(json const & value)
 {
-    if (!value.is_object())
-        return std::nullopt;
-    auto const meta = value.find(s_meta);
-    if (meta == value.end() || !meta->is_object())
-        return std::nullopt;
-    auto const reference = meta->find(s_reference);
-    if (reference == meta->end())
+    json const * const reference = metaMember(value, s_reference);
+    if (!reference)
         return std::nullopt;
     std::int64_t id = 0;
     Detail::load(*reference, id);
@@ -185,7 +191,7 @@ void oarchive::savePointed(void const * object, Serialize::Detail::OutputClass c
 
 void oarchive::saveData(void const * object, Serialize::Detail::OutputClass const & type)
 {
-    if (!type.name)
+    if (type.name.empty())
         throw boost::archive::archive_exception(
             boost::archive::archive_exception::unregistered_class, type.serializer->get_eti().get_debug_info());
     head()[s_meta][s_class_name] = type.name;
@@ -224,6 +230,7 @@ void oarchive::pushElement()
 iarchive::iarchive(json const & document)
     : m_document(&document)
 {
+    m_stack.reserve(16); // deeper than most objects
     enter({&document, nullptr, 0, false});
 }
 
@@ -242,7 +249,7 @@ void iarchive::load_object(void * object, boost::archive::detail::basic_iseriali
     Serialize::Detail::InputClass const & type = m_classes.of(serializer);
     json const * const name = className();
     if (name && name->get_ref<std::string const &>() != type.name)
-        fail("an object of the class " + type.name + " is expected, found " + name->dump());
+        fail("an object of the class " + std::string(type.name) + " is expected, found " + name->dump());
     serializer.load_object_data(*this, object, 0);
 }
 
@@ -266,11 +273,8 @@ std::unique_ptr<ISerializable> iarchive::loadPointed()
 
 json const * iarchive::className() const
 {
-    auto const meta = head().find(s_meta);
-    if (meta == head().end() || !meta->is_object())
-        return nullptr;
-    auto const name = meta->find(s_class_name);
-    return name != meta->end() && name->is_string() ? &*name : nullptr;
+    json const * const name = metaMember(head(), s_class_name);
+    return name && name->is_string() ? name : nullptr;
 }
 
 json const * iarchive::find(char const * key) const
@@ -278,8 +282,7 @@ json const * iarchive::find(char const * key) const
     json const & object = head();
     if (!object.is_object())
         fail(std::string("an object is expected, found ") + object.type_name());
-    auto const found = object.find(key);
-    return found == object.end() ? nullptr : &*found;
+    return member(object, key);
 }
 
 json const * iarchive::elementAt(std::size_t index) const

@@ -14,9 +14,7 @@ struct ObjectStorage::State
     std::vector<std::function<void()>> released;
 };
 
-ObjectStorage::ObjectStorage()
-    : m_state(std::make_unique<State>())
-{}
+ObjectStorage::ObjectStorage() noexcept = default;
 
 ObjectStorage::~ObjectStorage()
 {
@@ -37,18 +35,12 @@ ISerializable * ObjectStorage::add(std::unique_ptr<ISerializable> object, std::f
     ISerializable const * const root = object.get();
     if (!root)
         return nullptr;
-    // One that was moved from starts anew.
     if (!m_state)
         m_state = std::make_unique<State>();
-    ObjectTracker & tracker = m_state->tracker;
-    // The walk finds what the object owns in turn. Those belong to it, and are no business of this storage.
-    ObjectTracker found;
-    found << root;
-    for (auto const & [address, entry] : found.entries())
-        tracker.forceForeign(address);
     if (released)
         m_state->released.push_back(std::move(released));
-    tracker.own(root);
+    // Not walked: what the object owns in turn belongs to it, and is no business of this storage.
+    m_state->tracker.own(root);
     return object.release();
 }
 

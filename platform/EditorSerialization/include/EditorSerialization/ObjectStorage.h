@@ -15,14 +15,14 @@ namespace Serialize {
 class EDITORSERIALIZATION_EXPORT ObjectStorage
 {
 public:
-    ObjectStorage();
+    ObjectStorage() noexcept;
     ~ObjectStorage(); ///< deletes what it still owns
     /// What one storage owns, the other one owns afterwards.
     ObjectStorage(ObjectStorage &&) noexcept;
     /// What this one owned before is deleted.
     ObjectStorage & operator=(ObjectStorage &&) noexcept;
 
-    /// Takes the object over and returns it. Its class must be registered.
+    /// Takes the object over and returns it.
     /// @param released  called when the storage gives the object up, and not when it deletes it
     ISerializable * add(std::unique_ptr<ISerializable> object, std::function<void()> released = {});
 
@@ -34,7 +34,7 @@ public:
 
 private:
     struct State;
-    std::unique_ptr<State> m_state;
+    std::unique_ptr<State> m_state; // null until something is added: one stands beside each item that is delivered
 };
 
 /// An owning pointer to something read, together with the storage that owns what was created on the way. Whoever takes

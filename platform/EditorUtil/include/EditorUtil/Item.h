@@ -13,9 +13,8 @@
 
 namespace EditorCollection {
 
-/// A new item that carries `effect`, which must not be null and whose class must be registered. The effect belongs to
-/// the storage beside the item until `releaseAll()`, and to the item afterwards; so whether the result is kept or
-/// dropped, it is deleted once.
+/// A new item that carries `effect`, which must not be null. The effect belongs to the storage beside the item until
+/// `releaseAll()`, and to the item afterwards; so whether the result is kept or dropped, it is deleted once.
 EDITORUTIL_EXPORT serialize_ptr<IItem> makeItem(
     std::unique_ptr<Effect::Object> effect, std::set<QString> categories = {});
 
