@@ -2,14 +2,18 @@
 
 #include <algorithm>
 #include <atomic>
+#include <cerrno>
 #include <condition_variable>
 #include <deque>
-#include <filesystem>
 #include <mutex>
 #include <stdexcept>
+#include <string_view>
+#include <system_error>
 #include <thread>
 #include <utility>
 #include <vector>
+
+#include <dirent.h>
 
 #include <EditorUtil/ItemFile.h>
 #include <FileSystem/FileSystem.h>
@@ -20,47 +24,45 @@ namespace EditorCollection {
 
 namespace {
 
-/// Files are given to the threads so many at a time: enough that handing out costs nothing beside the reading, few
-/// enough that the threads share a folder of some dozens.
-constexpr std::size_t batchSize = 16;
+/// Files are given to the threads so many at a time, at most: enough that handing out costs nothing beside the reading.
+constexpr std::size_t maxBatchSize = 16;
 /// Batches that are read ahead of a slow callback, at most.
 constexpr std::size_t maxBatches = 64;
 
-bool isItemFile(std::string const & name)
+/// The suffix alone is no name: that is a hidden file.
+bool isItemFile(std::string_view name)
 {
-    return name.size() > itemFileSuffix.size() &&
-           name.compare(name.size() - itemFileSuffix.size(), itemFileSuffix.size(), itemFileSuffix) == 0;
+    return name.size() > itemFileSuffix.size() && name.substr(name.size() - itemFileSuffix.size()) == itemFileSuffix;
 }
+
+struct CloseFolder
+{
+    void operator()(DIR * folder) const { ::closedir(folder); }
+};
 
 /// The item files of a folder, sorted. Throws when it cannot be listed, and gives up when nobody wants it any more: a
 /// folder may be large, and whoever ends the storage waits for it.
-std::vector<std::string> listFolder(std::string const & folder, std::atomic<bool> const & isDropped)
+// Not through std::filesystem, which builds the path of every entry and takes it apart again.
+std::vector<std::string> listFolder(std::string const & path, std::atomic<bool> const & isDropped)
 {
+    auto const fail = [] { throw std::runtime_error(std::generic_category().message(errno)); };
     std::vector<std::string> names;
-    std::error_code error;
-    std::filesystem::directory_iterator entry(folder, error);
-    for (; !error && !isDropped && entry != std::filesystem::directory_iterator(); entry.increment(error)) {
-        std::string name = entry->path().filename().native();
-        if (isItemFile(name))
-            names.push_back(std::move(name));
+    std::unique_ptr<DIR, CloseFolder> const folder{::opendir(path.c_str())};
+    if (!folder && errno != ENOENT)
+        fail();
+    while (folder && !isDropped) {
+        errno = 0; // stays at the end of the folder
+        dirent const * const entry = ::readdir(folder.get());
+        if (!entry && errno != 0)
+            fail();
+        if (!entry)
+            break;
+        if (isItemFile(entry->d_name))
+            names.emplace_back(entry->d_name);
     }
-    if (error && error != std::errc::no_such_file_or_directory)
-        throw std::runtime_error(error.message());
     std::sort(names.begin(), names.end());
     return names;
 }
-
-/// A folder to be delivered.
-struct Load
-{
-    std::string folder;
-    QString collection;
-    ItemCallback callback;
-    std::vector<std::string> names; ///< of the files
-    std::size_t next = 0;           ///< the first file that is in no batch yet
-    bool listed = false;
-    std::atomic<bool> dropped{false};
-};
 
 /// An item, or why there is none.
 struct Outcome
@@ -69,7 +71,22 @@ struct Outcome
     std::string error;
 };
 
-/// Some consecutive files of a load. Batches are delivered in the order in which they were handed out.
+/// A folder to be delivered.
+struct Load
+{
+    std::string folder;
+    QString collection;
+    ItemCallback callback;
+    std::vector<std::string> names; ///< of the files
+    std::string error;              ///< why the folder could not be listed; this is delivered in place of the files
+    std::size_t next = 0;           ///< the first outcome that is in no batch yet
+    bool listed = false;
+    std::atomic<bool> dropped{false};
+
+    std::size_t outcomes() const { return error.empty() ? names.size() : 1; }
+};
+
+/// Some consecutive outcomes of a load. Batches are delivered in the order in which they were handed out.
 struct Batch
 {
     std::shared_ptr<Load> load;
@@ -82,13 +99,15 @@ std::string report(std::string const & path, char const * reason)
     return "Couldn't read " + path + ": " + reason;
 }
 
-Outcome readOne(Load const & load, std::string const & name)
+Outcome readOne(Load const & load, std::size_t index)
 {
-    Outcome outcome;
-    try {
-        outcome.item = readItem(load.folder, name);
-    } catch (std::exception const & error) {
-        outcome.error = report(load.folder + '/' + name, error.what());
+    Outcome outcome{{}, load.error};
+    if (outcome.error.empty()) {
+        try {
+            outcome.item = readItem(load.folder, load.names[index]);
+        } catch (std::exception const & error) {
+            outcome.error = report(load.folder + '/' + load.names[index], error.what());
+        }
     }
     return outcome;
 }
@@ -96,14 +115,15 @@ Outcome readOne(Load const & load, std::string const & name)
 } // namespace
 
 /// The threads and what they share. Each takes, whenever it is free, the most urgent of what there is to do: deliver
-/// what is ready, list the next folder, read the next files.
+/// what is ready, read the next files, list the next folder.
 class ItemStorage::Loader
 {
 public:
     explicit Loader(unsigned threads)
+        : m_threadCount(std::max(threads, 1U))
     {
         try {
-            for (unsigned index = 0; index < std::max(threads, 1U); ++index)
+            for (unsigned index = 0; index < m_threadCount; ++index)
                 m_threads.emplace_back([this] { work(); });
         } catch (...) {
             end();
@@ -119,18 +139,24 @@ public:
     void add(std::shared_ptr<Load> load)
     {
         std::lock_guard const lock(m_mutex);
-        m_loads.push_back(std::move(load));
-        m_work.notify_all();
+        m_unlisted.push_back(std::move(load));
+        m_work.notify_one();
     }
 
     template <class Predicate> void drop(Predicate const & isMeant)
     {
-        std::vector<std::shared_ptr<Load>> dropped; // outlives the lock: callbacks may do anything when they go
-        std::unique_lock lock(m_mutex);
-        auto const rest =
-            std::stable_partition(m_loads.begin(), m_loads.end(), [&](auto const & load) { return !isMeant(*load); });
-        dropped.assign(rest, m_loads.end());
-        m_loads.erase(rest, m_loads.end());
+        // These outlive the lock: a callback may do anything when it goes.
+        Loads dropped;
+        Loads done;
+        Lock lock(m_mutex);
+        for (Loads * const loads : {&m_unlisted, &m_loads}) {
+            auto const rest =
+                std::stable_partition(loads->begin(), loads->end(), [&](auto const & load) { return !isMeant(*load); });
+            dropped.insert(dropped.end(), rest, loads->end());
+            loads->erase(rest, loads->end());
+        }
+        takeHandedOut();
+        done.swap(m_done);
         for (Batch const & batch : m_batches)
             if (isMeant(*batch.load))
                 dropped.push_back(batch.load);
@@ -155,6 +181,7 @@ public:
 
 private:
     using Lock = std::unique_lock<std::mutex>;
+    using Loads = std::deque<std::shared_ptr<Load>>;
 
     void end()
     {
@@ -171,14 +198,16 @@ private:
     {
         Lock lock(m_mutex);
         while (true) {
-            if (!m_delivered && !m_batches.empty() && m_batches.front().ready)
+            if (!m_done.empty())
+                release(lock);
+            else if (!m_delivered && !m_batches.empty() && m_batches.front().ready)
                 deliver(lock);
             else if (m_ending)
                 return;
-            else if (!m_loads.empty() && !m_loads.front()->listed && !m_listing)
-                list(lock);
             else if (!m_loads.empty() && m_loads.front()->listed && m_batches.size() < maxBatches)
                 read(lock);
+            else if (!m_unlisted.empty())
+                list(lock);
             else
                 m_work.wait(lock);
         }
@@ -203,11 +232,8 @@ private:
         m_deliverer = {};
         if (batch.load->dropped)
             m_ended.notify_all();
+        m_done.push_back(std::move(batch.load));
         wake();
-        // The last owner of the callback may be the batch, and the callback may do anything when it goes.
-        lock.unlock();
-        batch.load.reset();
-        lock.lock();
     }
 
     void deliverOne(ItemCallback const & callback, Outcome & outcome)
@@ -225,29 +251,28 @@ private:
         ++m_failedCount;
     }
 
-    /// Lists the folder of the first load, without the lock.
+    /// Lists the next folder, without the lock.
     void list(Lock & lock)
     {
-        auto const load = m_loads.front();
-        m_listing = true;
+        auto load = std::move(m_unlisted.front());
+        m_unlisted.pop_front();
+        m_loads.push_back(load);
         lock.unlock();
         std::vector<std::string> names;
-        std::vector<Outcome> outcomes;
+        std::string problem;
         try {
             names = listFolder(load->folder, load->dropped);
         } catch (std::exception const & error) {
-            outcomes.emplace_back().error = report(load->folder, error.what());
+            problem = report(load->folder, error.what());
         }
         lock.lock();
-        m_listing = false;
         load->names = std::move(names);
+        load->error = std::move(problem);
         load->listed = true;
-        if (!load->dropped) {
-            m_foundCount += load->names.size() + outcomes.size();
-            if (!outcomes.empty())
-                m_batches.push_back({load, std::move(outcomes), true});
-            forgetHandedOut();
-        }
+        if (!load->dropped)
+            m_foundCount += load->outcomes();
+        m_done.push_back(std::move(load)); // unless dropped, it stands in m_loads as well
+        takeHandedOut();
         wake();
     }
 
@@ -256,53 +281,63 @@ private:
     {
         auto const load = m_loads.front();
         std::size_t const first = load->next;
-        std::size_t const last = std::min(first + batchSize, load->names.size());
+        // Smaller towards the end of a folder, so that the threads come to it together.
+        std::size_t const share = (load->outcomes() - first) / (2 * m_threadCount);
+        std::size_t const last = std::min(first + std::clamp<std::size_t>(share, 1, maxBatchSize), load->outcomes());
         load->next = last;
         Batch & batch = m_batches.emplace_back(); // stays where it is while others come and go at the ends
         batch.load = load;
-        forgetHandedOut();
+        takeHandedOut();
         lock.unlock();
         std::vector<Outcome> outcomes;
         outcomes.reserve(last - first);
         for (std::size_t index = first; index < last && !load->dropped; ++index)
-            outcomes.push_back(readOne(*load, load->names[index]));
+            outcomes.push_back(readOne(*load, index));
         lock.lock();
         batch.outcomes = std::move(outcomes);
         batch.ready = true;
-        m_work.notify_all();
+        // Nobody needs to be told: this thread goes on to deliver the batch, or whoever delivers another one does.
     }
 
-    /// Takes the first load off the list when every file of it is in a batch.
-    void forgetHandedOut()
+    /// Takes the first loads off the list as far as everything of them is in a batch.
+    void takeHandedOut()
     {
-        if (m_loads.front()->next == m_loads.front()->names.size())
+        while (!m_loads.empty() && m_loads.front()->listed && m_loads.front()->next == m_loads.front()->outcomes()) {
+            m_done.push_back(std::move(m_loads.front()));
             m_loads.pop_front();
+        }
     }
 
-    bool isIdle() const { return m_loads.empty() && m_batches.empty() && !m_delivered; }
-
-    /// Has the threads look for work, and tells those who wait for the last of it.
-    void wake()
+    /// Lets go of the loads that are done, without the lock: a callback may do anything when it goes.
+    void release(Lock & lock)
     {
-        m_work.notify_all();
-        if (isIdle())
-            m_ended.notify_all();
+        Loads done = std::exchange(m_done, {});
+        lock.unlock();
+        done.clear();
+        lock.lock();
     }
+
+    bool isIdle() const { return m_unlisted.empty() && m_loads.empty() && m_batches.empty() && !m_delivered; }
+
+    /// Has the threads look for work, or tells those who wait that there is none left.
+    void wake() { (isIdle() ? m_ended : m_work).notify_all(); }
 
     bool isInCallback() const { return m_deliverer == std::this_thread::get_id(); }
 
     mutable std::mutex m_mutex;
-    std::condition_variable m_work;            ///< there may be something to do
-    std::condition_variable m_ended;           ///< everything is done, or what was dropped is no longer delivered
-    std::deque<std::shared_ptr<Load>> m_loads; ///< in the order made; those after the first are not begun
-    std::deque<Batch> m_batches;               ///< in the order of delivery
-    std::shared_ptr<Load> m_delivered;         ///< whose batch is being delivered; null when none is
+    std::condition_variable m_work;    ///< there may be something to do
+    std::condition_variable m_ended;   ///< everything is done, or what was dropped is no longer delivered
+    Loads m_unlisted;                  ///< in the order made
+    Loads m_loads;                     ///< made before those: being listed, or listed and not handed out to the end
+    Loads m_done;                      ///< to be let go without the lock
+    std::deque<Batch> m_batches;       ///< in the order of delivery
+    std::shared_ptr<Load> m_delivered; ///< whose batch is being delivered; null when none is
     std::thread::id m_deliverer;
-    bool m_listing = false;
     bool m_ending = false;
     std::atomic<std::size_t> m_foundCount{0};
     std::atomic<std::size_t> m_deliveredCount{0};
     std::atomic<std::size_t> m_failedCount{0};
+    std::size_t const m_threadCount;
     std::vector<std::thread> m_threads; // last: they use all of the above
 };
 

@@ -208,6 +208,61 @@ TEST(ItemStorage, MayBeGivenLoadsByCallbacks)
     EXPECT_THAT(delivered.tags, ElementsAre("outer", "inner"));
 }
 
+TEST(ItemStorage, ACallbackMayUseTheStorageWhenItGoes)
+{
+    struct Owned
+    {
+        explicit Owned(ItemStorage & storage)
+            : m_storage(storage)
+        {}
+        ~Owned() { m_storage.dropLoads("Others"); }
+
+    private:
+        ItemStorage & m_storage;
+    };
+    ItemFolder const empty;
+    ItemFolder const full;
+    full.add("a");
+    std::vector<std::weak_ptr<Owned>> owned;
+    {
+        ItemStorage storage;
+        for (ItemFolder const * const folder : {&empty, &full, &empty}) {
+            auto given = std::make_shared<Owned>(storage);
+            owned.emplace_back(given);
+            storage.loadItems(folder->path(), "Samples", [given = std::move(given)](serialize_ptr<IItem> &&) {});
+        }
+        storage.waitForAll();
+    }
+    for (std::weak_ptr<Owned> const & gone : owned)
+        EXPECT_TRUE(gone.expired());
+}
+
+TEST(ItemStorage, OneLineForAFolderThatCannotBeListedInItsTurn)
+{
+    ItemFolder const folder;
+    folder.add("a");
+    folder.write("no folder", "");
+    LogCapture const log;
+    std::vector<std::string> order;
+    ItemStorage storage;
+    auto const load = [&](QString const & path) {
+        storage.loadItems(path, "Samples", [&](serialize_ptr<IItem> && item) {
+            order.push_back(item->payload().tag.toStdString() + " after " + std::to_string(log.errors().size()));
+        });
+    };
+    load(folder.path());
+    load(folder.path() + "/no folder");
+    load(folder.path());
+    storage.waitForAll();
+    EXPECT_THAT(order, ElementsAre("a after 0", "a after 1"));
+    EXPECT_THAT(
+        log.errors(), ElementsAre("Couldn't read " + folder.path().toStdString() + "/no folder: Not a directory"));
+    auto const progress = storage.progress();
+    EXPECT_EQ(progress.found, 3U);
+    EXPECT_EQ(progress.delivered, 2U);
+    EXPECT_EQ(progress.failed, 1U);
+}
+
 TEST(ItemStorage, ACallbackCannotWait)
 {
     ItemFolder const folder;
