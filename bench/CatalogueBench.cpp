@@ -91,27 +91,25 @@ BENCHMARK(parseFiles)
     ->UseRealTime()
     ->Complexity(benchmark::oN);
 
-/// From the construction of the provider to the last delivery, out of a storage with so many threads.
+/// From the construction of the provider to the last delivery, out of a storage with so many threads. The host's
+/// storage is there before and stays.
 void deliver(benchmark::State & state)
 {
     Stock const & stock = stockOf(state.range(0));
     Settings::setStockRoot(stock.root());
     Settings::setUserRoot(stock.root() + "/user");
+    ItemStorage storage(static_cast<unsigned>(state.range(1)));
+    CollectionProvider::setItemStorage(&storage);
     for (auto _ : state) {
-        state.PauseTiming();
-        auto storage = std::make_unique<ItemStorage>(static_cast<unsigned>(state.range(1)));
-        CollectionProvider::setItemStorage(storage.get());
-        state.ResumeTiming();
         auto provider = std::make_unique<Effect::ContentProvider>();
-        storage->waitForAll();
+        storage.waitForAll();
         state.PauseTiming();
         if (CollectionProvider::collection("Effects")->items().size() != stock.paths.size())
             state.SkipWithError("items are missing");
         provider.reset();
-        CollectionProvider::setItemStorage(nullptr);
-        storage.reset();
         state.ResumeTiming();
     }
+    CollectionProvider::setItemStorage(nullptr);
     state.SetItemsProcessed(state.iterations() * state.range(0));
     state.SetComplexityN(state.range(0));
 }
