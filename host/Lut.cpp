@@ -3,6 +3,7 @@
 #include <vector>
 
 #include <ParserLUT/LUTTable.h>
+#include <ParserLUT/ParserLUTFactory.h>
 #include <utils/LutUtils.h>
 
 #include "Command.h"
@@ -14,6 +15,7 @@
 
 namespace Host {
 
+namespace LUT = Quoril::Proc::LUT;
 using nlohmann::json;
 
 namespace {
@@ -39,7 +41,8 @@ std::string sizeText(json const & size)
 void lut(FileOptions const & options)
 {
     std::vector<std::vector<std::string>> rows{{"FILE", "FORMAT", "SIZE", "TITLE"}};
-    bool const allDone = describeFiles(options, expand(options.arguments, {".cube", ".3dl", ".spi3d", ".csp"}),
+    bool const allDone = describeFiles(options,
+        expand(options.arguments, {LUT::fileSuffixes.begin(), LUT::fileSuffixes.end()}),
         {"Reading tables", describe, [&rows](json const & table) {
              rows.push_back({quoted(table["file"]), table["format"], sizeText(table["size"]), table["title"].dump()});
          }});

@@ -1,5 +1,5 @@
 /// @file
-/// Printing for people and for programs. Nothing else knows of terminals and colours.
+/// Printing for people and for programs. Nothing but the progress bar knows of terminals and colours besides.
 ///
 /// Standard output that is a terminal gets aligned tables and, unless the environment forbids them, colours; anything
 /// else gets plain text, in which the cells of a table stand between tabs.

@@ -21,6 +21,19 @@ function(run output)
   set(${output} "${text}" PARENT_SCOPE)
 endfunction()
 
+function(expect_in text part what)
+  string(FIND "${text}" "${part}" at)
+  if(at EQUAL -1)
+    fail("${what} should have ${part}, but has:\n${text}")
+  endif()
+endfunction()
+
+# The tool converts an effect.
+function(expect_conversion tool)
+  run(text "${tool}" convert --class Effect::Blur --set intensity=20)
+  expect_in("${text}" "SettingsEffectBlurGaussian" "The converted effect")
+endfunction()
+
 # The tool finds the content that was installed along with it.
 function(expect_stock tool)
   run(text "${CMAKE_COMMAND}" -E env --unset=EDITOR_STOCK_DIR "${tool}" catalogue --json)

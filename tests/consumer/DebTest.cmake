@@ -2,13 +2,6 @@
 cmake_minimum_required(VERSION 3.25)
 include("${CMAKE_CURRENT_LIST_DIR}/Common.cmake")
 
-function(expect_in text part what)
-  string(FIND "${text}" "${part}" at)
-  if(at EQUAL -1)
-    fail("${what} should have ${part}, but has:\n${text}")
-  endif()
-endfunction()
-
 # package(NAME DEPENDENCY...): unpacks it over the others, and sets NAME to the list of its files.
 function(package name)
   file(GLOB found "${work}/packages/${name}_*.deb")
@@ -45,6 +38,5 @@ expect_in("${libeditoreffects1}" "./usr/share/EditorEffects/stock/" libeditoreff
 expect_in("${libeditoreffects-dev}" "./usr/include/EditorEffects/effects/Effects.h" libeditoreffects-dev)
 
 expect_stock("${work}/root/usr/bin/effectctl")
-run(text "${work}/root/usr/bin/effectctl" convert --class Effect::Blur --set intensity=20)
-expect_in("${text}" "SettingsEffectBlurGaussian" "The converted effect")
+expect_conversion("${work}/root/usr/bin/effectctl")
 file(REMOVE_RECURSE "${work}")

@@ -18,11 +18,7 @@ file(GLOB built "${work}/build/lib/*.so")
 if(NOT built STREQUAL "${work}/build/lib/libEditorEffects.so")
   fail("Only the library itself should have been built, but there are: ${built}")
 endif()
-run(text "${work}/build/bin/effectctl" convert --class Effect::Blur --set intensity=20)
-string(FIND "${text}" SettingsEffectBlurGaussian at)
-if(at EQUAL -1)
-  fail("The tool should convert a blur, but printed:\n${text}")
-endif()
+expect_conversion("${work}/build/bin/effectctl")
 
 # And it can be installed beside the host's libraries, which it finds where they are.
 run(ignored "${CMAKE_COMMAND}" --install "${work}/build" --prefix "${work}/product")

@@ -2,6 +2,7 @@
 /// The way to a parser of lookup tables.
 #pragma once
 
+#include <array>
 #include <memory>
 #include <string>
 
@@ -9,6 +10,9 @@
 #include <ParserLUT/IParserLUT.h>
 
 namespace Quoril::Proc::LUT {
+
+/// What the names of such files end with. A format is told by the text all the same.
+inline constexpr std::array<char const *, 4> fileSuffixes{".cube", ".3dl", ".spi3d", ".csp"};
 
 /// Finds the parser of a text.
 class PARSERLUT_EXPORT ParserLUTFactory
