@@ -48,11 +48,6 @@ private:
     int m_descriptor;
 };
 
-[[noreturn]] void failSystem()
-{
-    throw std::runtime_error(std::generic_category().message(errno));
-}
-
 // Not through Qt: it asks for the kind of a file by its path before it opens it, which a pipe put there in between
 // would make it wait for, and it cannot open every name in every locale.
 std::string readFile(std::string const & path)
@@ -61,7 +56,7 @@ std::string readFile(std::string const & path)
     Descriptor const file(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
     struct stat status;
     if (file < 0 || ::fstat(file, &status) != 0)
-        failSystem();
+        throw std::system_error(errno, std::generic_category());
     if (!S_ISREG(status.st_mode))
         throw std::runtime_error("is not a regular file");
     if (status.st_size > maxItemFileSize)
@@ -76,7 +71,7 @@ std::string readFile(std::string const & path)
         if (count > 0)
             length += static_cast<std::size_t>(count);
         else if (errno != EINTR)
-            failSystem();
+            throw std::system_error(errno, std::generic_category());
     }
     text.resize(length);
     return text;

@@ -45,16 +45,15 @@ struct CloseFolder
 // Not through std::filesystem, which builds the path of every entry and takes it apart again.
 std::vector<std::string> listFolder(std::string const & path, std::atomic<bool> const & isDropped)
 {
-    auto const fail = [] { throw std::runtime_error(std::generic_category().message(errno)); };
     std::vector<std::string> names;
     std::unique_ptr<DIR, CloseFolder> const folder{::opendir(path.c_str())};
     if (!folder && errno != ENOENT)
-        fail();
+        throw std::system_error(errno, std::generic_category());
     while (folder && !isDropped) {
         errno = 0; // stays at the end of the folder
         dirent const * const entry = ::readdir(folder.get());
         if (!entry && errno != 0)
-            fail();
+            throw std::system_error(errno, std::generic_category());
         if (!entry)
             break;
         if (isItemFile(entry->d_name))
@@ -171,7 +170,7 @@ public:
 
     template <class Wait> bool waitForAll(Wait const & wait)
     {
-        std::unique_lock lock(m_mutex);
+        Lock lock(m_mutex);
         if (isInCallback())
             throw std::logic_error("a callback of the item storage would wait for itself");
         return wait(lock, m_ended, [this] { return isIdle(); });
