@@ -6,10 +6,8 @@
 #include <deque>
 #include <string>
 #include <string_view>
-#include <type_traits>
 #include <typeinfo>
 #include <unordered_map>
-#include <vector>
 
 #include <boost/archive/detail/archive_serializer_map.hpp>
 #include <boost/archive/detail/basic_iserializer.hpp>
@@ -54,7 +52,7 @@ public:
         Class *& known = m_known[&serializer];
         if (!known) {
             Serializer const * const registered = find(serializer.get_eti());
-            known = &ofRegistered(registered ? *registered : serializer);
+            known = &ofCanonical(registered ? *registered : serializer);
         }
         return *known;
     }
@@ -69,14 +67,15 @@ public:
     std::size_t size() const { return m_classes.size(); }
 
 protected:
-    /// Null for a class that is not registered.
+    /// The serializer that the class's own module registered; null for a class that is not registered.
     static Serializer const * find(boost::serialization::extended_type_info const & type)
     {
         auto const * const found = boost::archive::detail::archive_serializer_map<Archive>::find(type);
         return found ? &static_cast<PointerSerializer const *>(found)->get_basic_serializer() : nullptr;
     }
 
-    Class & ofRegistered(Serializer const & serializer)
+    /// The class of a serializer that is the registered one, or the only one there is.
+    Class & ofCanonical(Serializer const & serializer)
     {
         Class *& known = m_known[&serializer];
         if (!known) {
@@ -106,7 +105,7 @@ public:
     {
         OutputClass *& known = this->m_known[&typeid(object)];
         if (!known)
-            known = &this->ofRegistered(serializerOf(object));
+            known = &this->ofCanonical(serializerOf(object));
         return *known;
     }
 
@@ -143,7 +142,7 @@ public:
         auto const * const serializer = type ? InputClasses::find(*type) : nullptr;
         if (!serializer)
             return nullptr;
-        return m_named.emplace(name, &this->ofRegistered(*serializer)).first->second;
+        return m_named.emplace(name, &this->ofCanonical(*serializer)).first->second;
     }
 
 private:
