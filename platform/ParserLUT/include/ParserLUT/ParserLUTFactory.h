@@ -11,7 +11,7 @@
 
 namespace Quoril::Proc::LUT {
 
-/// What the names of such files end with. A format is told by the text all the same.
+/// What the names of files in the formats of `ParserLUTFactory` end with. The format itself is told by the text.
 inline constexpr std::array<char const *, 4> fileSuffixes{".cube", ".3dl", ".spi3d", ".csp"};
 
 /// Finds the parser of a text.
