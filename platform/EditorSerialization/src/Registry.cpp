@@ -32,7 +32,8 @@ Registrator::Registrator(char const * name, BaseCreator const * creator)
     , m_creator(creator)
 {
     std::unique_lock const lock(classes().mutex);
-    if (!classes().creators.emplace(name, creator).second) {
+    m_isFirst = classes().creators.emplace(name, creator).second;
+    if (!m_isFirst) {
         LOG(ERROR) << "The archive name " << name << " is registered twice. The first registration stays";
         m_creator.reset();
     }
@@ -40,11 +41,10 @@ Registrator::Registrator(char const * name, BaseCreator const * creator)
 
 Registrator::~Registrator()
 {
+    if (!m_isFirst)
+        return;
     std::unique_lock const lock(classes().mutex);
-    auto const found = classes().creators.find(m_name);
-    // A registrator that came second has nothing to take back.
-    if (found != classes().creators.end() && found->first.data() == m_name)
-        classes().creators.erase(found);
+    classes().creators.erase(m_name);
 }
 
 namespace Registry {

@@ -52,18 +52,52 @@ TEST(Registry, AClassWithoutACreatorCannotBeMade)
 
 TEST(Registry, ASecondRegistrationIsReportedAndDropped)
 {
-    static char const first[] = "Test::Twice";
-    static char const second[] = "Test::Twice";
-    std::optional<Serialize::Registrator> registrator(std::in_place, first, new LeafCreator);
-    LogCapture const log;
+    static char const name[] = "Test::Twice";
+    static char const sameName[] = "Test::Twice";
+    struct
     {
-        Serialize::Registrator const again(second, nullptr);
-        EXPECT_THAT(log.errors(), testing::ElementsAre(testing::HasSubstr("Test::Twice is registered twice")));
+        char const * secondName;
+        Serialize::BaseCreator const * firstCreator;
+        Serialize::BaseCreator const * secondCreator;
+    } const rows[] = {
+        {sameName, new LeafCreator, nullptr},
+        {sameName, new LeafCreator, new LeafCreator},
+        // One literal in two registrators, as when a class is registered in two libraries that share it.
+        {name, new LeafCreator, nullptr},
+        {name, new LeafCreator, new LeafCreator},
+        {name, nullptr, nullptr},
+        {name, nullptr, new LeafCreator},
+    };
+    for (auto const & row : rows) {
+        SCOPED_TRACE(&row - rows);
+        bool const canBeMade = row.firstCreator != nullptr;
+        std::optional<Serialize::Registrator> registrator(std::in_place, name, row.firstCreator);
+        LogCapture const log;
+        {
+            Serialize::Registrator const again(row.secondName, row.secondCreator);
+            EXPECT_THAT(log.errors(), testing::ElementsAre(testing::HasSubstr("Test::Twice is registered twice")));
+            EXPECT_EQ(Serialize::Registry::create("Test::Twice") != nullptr, canBeMade);
+        }
+        // The second one takes nothing back when it goes.
+        EXPECT_THAT(Serialize::Registry::names(), Contains("Test::Twice"));
+        EXPECT_EQ(Serialize::Registry::create("Test::Twice") != nullptr, canBeMade);
+        registrator.reset();
+        EXPECT_THAT(Serialize::Registry::names(), Not(Contains("Test::Twice")));
     }
-    // The second one takes nothing back when it goes.
-    EXPECT_NE(Serialize::Registry::create("Test::Twice"), nullptr);
-    registrator.reset();
-    EXPECT_EQ(Serialize::Registry::create("Test::Twice"), nullptr);
+}
+
+TEST(Registry, TheFirstRegistrationEndsWithItsRegistrator)
+{
+    static char const name[] = "Test::Outlived";
+    std::optional<Serialize::Registrator> first(std::in_place, name, new LeafCreator);
+    LogCapture const log;
+    std::optional<Serialize::Registrator> second(std::in_place, name, new LeafCreator);
+    first.reset();
+    EXPECT_EQ(Serialize::Registry::create(name), nullptr);
+    // The name is free again, and the dropped one does not take it back from its new owner either.
+    Serialize::Registrator const third(name, new LeafCreator);
+    second.reset();
+    EXPECT_NE(Serialize::Registry::create(name), nullptr);
 }
 
 } // namespace

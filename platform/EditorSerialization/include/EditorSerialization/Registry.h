@@ -27,7 +27,8 @@ class EDITORSERIALIZATION_EXPORT Registrator
 public:
     /// @param name     kept as a pointer: a literal
     /// @param creator  owned from here on; with null the class cannot be made by name
-    /// A name that is already registered keeps its first creator; the second one is reported in the log and dropped.
+    /// A name that is already registered keeps its first creator for as long as the first registrator lives; the second
+    /// creator is reported in the log and dropped.
     Registrator(char const * name, BaseCreator const * creator);
     ~Registrator();
     Registrator(Registrator const &) = delete;
@@ -36,6 +37,7 @@ public:
 private:
     char const * m_name;
     std::unique_ptr<BaseCreator const> m_creator;
+    bool m_isFirst; // owns the name
 };
 
 /// The classes that can be made by name. Safe to ask from any thread.
