@@ -79,6 +79,17 @@ TEST(ObjectTrackerOnEffects, HeldEffectsAreReachedByPointer)
     EXPECT_TRUE(tracker.entries().at(enhance.effects[0].get()).release);
 }
 
+TEST(ObjectTrackerOnEffects, HeldEffectsAreReleasedWithTheirHolder)
+{
+    auto enhance = std::make_unique<AudioEnhance>();
+    enhance->addEffect(std::make_unique<AudioVibrato>())->addEffect(nullptr)->addEffect(chain(3));
+    ObjectTracker tracker;
+    point(tracker, enhance.release());
+    // Each effect is deleted once: the C library or the address sanitizer ends the program otherwise.
+    tracker.releaseAll();
+    EXPECT_TRUE(tracker.entries().empty());
+}
+
 TEST(ObjectTrackerOnEffects, AnEffectReachedByReferenceCanBeReachedByPointer)
 {
     AudioVibrato const effect;

@@ -27,7 +27,7 @@ void ObjectTracker::forceForeign(void const * object)
 void ObjectTracker::own(ISerializable const * object)
 {
     Entry & entry = m_entries[dynamic_cast<void const *>(object)];
-    entry = {Kind::OwnedPointer, true, [object] { delete object; }};
+    entry = {Kind::OwnedPointer, true, [object] { delete object; }, false};
 }
 
 void ObjectTracker::releaseAll()
@@ -35,7 +35,7 @@ void ObjectTracker::releaseAll()
     // Taken out first: a destructor may come back here.
     Entries const entries = std::exchange(m_entries, {});
     for (auto const & [address, entry] : entries)
-        if (entry.release)
+        if (entry.release && !entry.held)
             entry.release();
 }
 

@@ -91,6 +91,80 @@ TEST(ObjectTracker, TheReleaseFunctionDeletesTheWholeObject)
     EXPECT_TRUE(tracker.entries().empty());
 }
 
+/// A node that holds a leaf and a node with a leaf of its own.
+std::unique_ptr<Host::Node> holderOfHolders()
+{
+    auto inner = std::make_unique<Host::Node>();
+    inner->children.push_back(std::make_unique<Host::Leaf>());
+    auto outer = std::make_unique<Host::Node>();
+    outer->children.push_back(std::make_unique<Host::Leaf>());
+    outer->children.emplace_back();
+    outer->children.push_back(std::move(inner));
+    return outer;
+}
+
+TEST(ObjectTracker, WhatAnObjectHoldsIsReleasedWithItsHolder)
+{
+    auto * const outer = holderOfHolders().release();
+    ObjectTracker tracker;
+    point(tracker, outer);
+    EXPECT_FALSE(entry(tracker, *outer).held);
+    for (std::size_t const index : {0, 2}) {
+        EXPECT_TRUE(entry(tracker, *outer->children[index]).held);
+        EXPECT_TRUE(entry(tracker, *outer->children[index]).release);
+    }
+    ASSERT_EQ(Host::Counted::instances.size(), 4U);
+    tracker.releaseAll();
+    EXPECT_TRUE(Host::Counted::instances.empty());
+}
+
+TEST(ObjectTracker, WhatAnObjectHoldsStaysWithAHolderThatIsNotReleased)
+{
+    struct
+    {
+        char const * how;
+        void (*reach)(ObjectTracker &, Host::Node const &);
+    } const rows[] = {
+        {"by reference", [](ObjectTracker & tracker, Host::Node const & node) { tracker << node; }},
+        {"forced to be foreign",
+            [](ObjectTracker & tracker, Host::Node const & node) {
+                tracker.forceForeign(&node);
+                point(tracker, &node);
+            }},
+        {"what is held before its holder",
+            [](ObjectTracker & tracker, Host::Node const & node) {
+                point(tracker, node.children[0].get());
+                tracker << node;
+            }},
+        {"part of it before the depth limit",
+            [](ObjectTracker & tracker, Host::Node const & node) {
+                auto & inner = dynamic_cast<Host::Node &>(*node.children[2]);
+                inner.children.push_back(Host::nested(maxObjectDepth));
+                EXPECT_THROW(tracker << node, ArchiveError);
+            }},
+    };
+    for (auto const & row : rows) {
+        SCOPED_TRACE(row.how);
+        auto const node = holderOfHolders();
+        ObjectTracker tracker;
+        row.reach(tracker, *node);
+        std::size_t const alive = Host::Counted::instances.size();
+        tracker.releaseAll();
+        EXPECT_EQ(Host::Counted::instances.size(), alive);
+    }
+}
+
+TEST(ObjectTracker, AnOwningPointerOutsideOfAnyObjectHoldsNothing)
+{
+    auto leaf = std::make_unique<Host::Leaf>();
+    ObjectTracker tracker;
+    tracker << leaf;
+    EXPECT_FALSE(entry(tracker, *leaf).held);
+    leaf.release();
+    tracker.releaseAll();
+    EXPECT_TRUE(Host::Counted::instances.empty());
+}
+
 TEST(ObjectTracker, ReleasesNothingByItself)
 {
     auto const leaf = std::make_unique<Host::Leaf>();

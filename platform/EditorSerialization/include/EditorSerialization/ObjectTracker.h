@@ -44,6 +44,7 @@ public:
         Kind kind = Kind::Unknown;     ///< how it was reached first
         bool saved = false;            ///< whether its content has been walked
         std::function<void()> release; ///< deletes the object; empty unless the kind is `OwnedPointer`
+        bool held = false;             ///< another object that was walked owns it and deletes it with itself
     };
 
     using Entries = std::unordered_map<void const *, Entry>; ///< by the address of the whole object
@@ -64,7 +65,8 @@ public:
     /// Takes an object over as if a pointer to it had been walked with the flag clear, whatever its entry said before.
     void own(ISerializable const * object);
 
-    /// Runs every release function once, which deletes the objects that were reached by pointer, and forgets them.
+    /// Deletes the objects that were reached by pointer, through their release functions, and forgets every entry. An
+    /// object that another one holds is left to its holder, whether or not that one is released here.
     void releaseAll();
 
     /// Forgets every entry and releases nothing.
@@ -94,7 +96,13 @@ private:
     }
     void save_override(QString const &) {}
     void save_override(std::string const &) {}
-    template <class T> void save_override(std::unique_ptr<T> const & object) { save_impl(object.get()); }
+    template <class T> void save_override(std::unique_ptr<T> const & object)
+    {
+        // A field or an element of the object that is being walked. Outside of any object it is the caller's variable.
+        if (object && m_walked)
+            m_entries[dynamic_cast<void const *>(object.get())].held = true;
+        save_impl(object.get());
+    }
     template <class T> void save_override(std::optional<T> const & value)
     {
         if (value)
