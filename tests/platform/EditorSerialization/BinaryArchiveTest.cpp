@@ -202,6 +202,77 @@ TEST(BinaryArchive, CutInsideAFieldKeepsTheFieldsBefore)
     EXPECT_EQ(read.number, 99);
 }
 
+/// Reads the object from the first `size` bytes, which do not hold all of it.
+template <class Object> void readCut(std::string const & whole, std::size_t size, Object & object)
+{
+    std::stringstream stream(whole.substr(0, size));
+    BinaryIArchive archive(stream);
+    try {
+        archive >> object;
+        ADD_FAILURE() << "was read";
+    } catch (archive_exception const & error) {
+        EXPECT_EQ(error.code, archive_exception::input_stream_error);
+    }
+}
+
+TEST(BinaryArchive, CutBeforeTheElementsKeepsTheList)
+{
+    Branch branch;
+    branch.leaves.resize(2);
+    branch.leaves[0].number = 1;
+    branch.leaves[1].number = 2;
+    std::string const whole = written(branch);
+    // Tracked, class version and object number; then the count and the item version.
+    std::size_t const elements = header.size() + 1 + 4 + 4 + 8 + 4;
+    for (std::size_t size = header.size(); size < elements; ++size) {
+        SCOPED_TRACE(size);
+        Branch read;
+        read.leaves.resize(3);
+        read.leaves[2].number = 9;
+        readCut(whole, size, read);
+        ASSERT_EQ(read.leaves.size(), 3U);
+        EXPECT_EQ(read.leaves[2].number, 9);
+    }
+    // From there on the list is the new one, as far as it goes.
+    Branch read;
+    read.leaves.resize(3);
+    readCut(whole, whole.size() - 1, read);
+    ASSERT_EQ(read.leaves.size(), 2U);
+    EXPECT_EQ(read.leaves[0].number, 1);
+    EXPECT_EQ(read.leaves[1].number, 2);
+}
+
+TEST(BinaryArchive, AValueInAnOptionalOrAnArrayIsReplacedAsAWhole)
+{
+    Host::Parcel parcel;
+    parcel.leaf.emplace().text = "new";
+    parcel.leaf->number = 5;
+    parcel.numbers = {1, 2, 3};
+    std::string const whole = written(parcel);
+    using Numbers = std::array<double, 3>;
+    int news = 0;
+    for (std::size_t size = header.size(); size < whole.size(); ++size) {
+        SCOPED_TRACE(size);
+        Host::Parcel read;
+        read.leaf.emplace().text = "old";
+        read.leaf->number = 4;
+        read.numbers = {7, 8, 9};
+        readCut(whole, size, read);
+        ASSERT_TRUE(read.leaf);
+        bool const isNew = read.leaf->text == "new";
+        news += isNew ? 1 : 0;
+        EXPECT_EQ(read.leaf->text, isNew ? "new" : "old");
+        EXPECT_EQ(read.leaf->number, isNew ? 5 : 4);
+        EXPECT_EQ(read.numbers, (Numbers{7, 8, 9}));
+
+        Host::Parcel empty;
+        readCut(whole, size, empty);
+        EXPECT_EQ(empty.leaf.has_value(), isNew);
+    }
+    // The leaf counts from its last byte on, with the 24 bytes of the numbers behind it.
+    EXPECT_EQ(news, 24);
+}
+
 TEST(BinaryArchive, AFullStreamIsAnOutputStreamError)
 {
     class Full : public std::streambuf

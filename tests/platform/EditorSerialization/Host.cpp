@@ -3,6 +3,7 @@
 BOOST_CLASS_EXPORT_IMPLEMENT(Host::Leaf)
 BOOST_CLASS_EXPORT_IMPLEMENT(Host::Node)
 BOOST_CLASS_EXPORT_IMPLEMENT(Host::Branch)
+BOOST_CLASS_EXPORT_IMPLEMENT(Host::Parcel)
 
 namespace Host {
 
@@ -17,6 +18,7 @@ template <class Class> struct Creator : Serialize::BaseCreator
 Serialize::Registrator const leaf(Leaf::NameInArchive(), new Creator<Leaf>);
 Serialize::Registrator const node(Node::NameInArchive(), new Creator<Node>);
 Serialize::Registrator const branch(Branch::NameInArchive(), new Creator<Branch>);
+Serialize::Registrator const parcel(Parcel::NameInArchive(), new Creator<Parcel>);
 
 } // namespace
 

@@ -2,8 +2,10 @@
 /// Classes as a host has them: archived, and with an eye on their instances.
 #pragma once
 
+#include <array>
 #include <deque>
 #include <memory>
+#include <optional>
 #include <set>
 #include <string>
 
@@ -105,6 +107,22 @@ private:
     }
 };
 
+/// May have a leaf, and always has three numbers.
+struct Parcel : Counted
+{
+    HOST_CLASS(Parcel)
+
+    std::optional<Leaf> leaf;
+    std::array<double, 3> numbers{};
+
+private:
+    template <class Archive> void serialize(Archive & archive)
+    {
+        using Serialize::field;
+        Serialize::fields(archive, field("leaf", leaf), field("numbers", numbers));
+    }
+};
+
 /// Is registered nowhere.
 struct Unknown : Counted
 {
@@ -122,3 +140,4 @@ std::unique_ptr<Node> nested(int depth);
 BOOST_CLASS_EXPORT_KEY(Host::Leaf)
 BOOST_CLASS_EXPORT_KEY(Host::Node)
 BOOST_CLASS_EXPORT_KEY(Host::Branch)
+BOOST_CLASS_EXPORT_KEY(Host::Parcel)

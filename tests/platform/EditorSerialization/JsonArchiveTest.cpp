@@ -1,5 +1,6 @@
 #include <EditorSerialization/JsonArchive.h>
 
+#include <array>
 #include <limits>
 #include <stdexcept>
 
@@ -151,6 +152,43 @@ TEST(JsonArchive, AbsentKeysLeaveTheirFields)
     // The meta object may be missing where the class is known.
     load(json{{"number", 7}}, leaf);
     EXPECT_EQ(leaf.number, 7);
+}
+
+TEST(JsonArchive, AbsentKeysOfAValueInAnOptionalLeaveTheirFields)
+{
+    Host::Parcel parcel;
+    parcel.leaf.emplace().text = "old";
+    parcel.leaf->number = 4;
+    load(json{{"leaf", {{"number", 5}}}}, parcel);
+    ASSERT_TRUE(parcel.leaf);
+    EXPECT_EQ(parcel.leaf->text, "old");
+    EXPECT_EQ(parcel.leaf->number, 5);
+    load(json{{"leaf", nullptr}}, parcel);
+    EXPECT_FALSE(parcel.leaf);
+    load(json{{"leaf", {{"number", 6}}}}, parcel);
+    ASSERT_TRUE(parcel.leaf);
+    EXPECT_EQ(parcel.leaf->text, "");
+    EXPECT_EQ(parcel.leaf->number, 6);
+}
+
+TEST(JsonArchive, AValueInAnOptionalOrAnArrayIsReplacedAsAWhole)
+{
+    Host::Parcel parcel;
+    EXPECT_THROW(load(json{{"leaf", {{"text", "new"}, {"flag", 7}}}}, parcel), archive_exception);
+    EXPECT_FALSE(parcel.leaf);
+    parcel.leaf.emplace().text = "old";
+    EXPECT_THROW(load(json{{"leaf", {{"text", "new"}, {"flag", 7}}}}, parcel), archive_exception);
+    ASSERT_TRUE(parcel.leaf);
+    EXPECT_EQ(parcel.leaf->text, "old");
+    EXPECT_THROW(load(json{{"leaf", 7}}, parcel), archive_exception);
+    ASSERT_TRUE(parcel.leaf);
+    EXPECT_EQ(parcel.leaf->text, "old");
+
+    parcel.numbers = {7, 8, 9};
+    EXPECT_THROW(load(json{{"numbers", {1, 2, "three"}}}, parcel), archive_exception);
+    EXPECT_EQ(parcel.numbers, (std::array<double, 3>{7, 8, 9}));
+    load(json{{"numbers", {1, 2, 3}}}, parcel);
+    EXPECT_EQ(parcel.numbers, (std::array<double, 3>{1, 2, 3}));
 }
 
 TEST(JsonArchive, WrongValuesAreToldWithTheirPlace)

@@ -279,6 +279,63 @@ TEST(StreamDeserializer, WhatWasReadBeforeTheCutStays)
     EXPECT_FALSE(after.flag);
 }
 
+/// Reads the object from the first `size` bytes, which do not hold all of it.
+void readCut(std::string const & whole, std::size_t size, ISerializable & object)
+{
+    EXPECT_EQ(
+        errorOf([&] { Stream(whole.substr(0, size)).reader().read(object); }).code, ArchiveError::input_stream_error);
+}
+
+TEST(StreamDeserializer, ACutBeforeTheElementsKeepsTheRecords)
+{
+    Host::Branch branch;
+    branch.leaves.resize(2);
+    std::string const bytes = written([&](ISerializer & serializer) { serializer.write(branch); });
+    // Behind the count of two.
+    std::size_t const elements = bytes.find("A\x02\0\0\0"s) + 5;
+    for (std::size_t size = 0; size < elements; ++size) {
+        SCOPED_TRACE(size);
+        Host::Branch read;
+        read.leaves.resize(3);
+        read.leaves[2].number = 9;
+        readCut(bytes, size, read);
+        ASSERT_EQ(read.leaves.size(), 3U);
+        EXPECT_EQ(read.leaves[2].number, 9);
+    }
+}
+
+TEST(StreamDeserializer, AValueInAnOptionalOrAnArrayIsReplacedAsAWhole)
+{
+    Host::Parcel parcel;
+    parcel.leaf = leaf();
+    parcel.numbers = {1, 2, 3};
+    std::string const bytes = written([&](ISerializer & serializer) { serializer.write(parcel); });
+    int news = 0;
+    for (std::size_t size = 0; size < bytes.size(); ++size) {
+        SCOPED_TRACE(size);
+        Host::Parcel read;
+        read.leaf.emplace().text = "old";
+        read.leaf->number = 4;
+        read.numbers = {7, 8, 9};
+        readCut(bytes, size, read);
+        ASSERT_TRUE(read.leaf);
+        bool const isNew = read.leaf->text != "old";
+        news += isNew ? 1 : 0;
+        EXPECT_EQ(read.leaf->number, isNew ? -2 : 4);
+
+        Host::Parcel empty;
+        readCut(bytes, size, empty);
+        EXPECT_EQ(empty.leaf.has_value(), isNew);
+
+        // The last three bytes end the last item, the array and the object.
+        bool const areNumbersNew = size + 1 >= bytes.size();
+        EXPECT_EQ(read.numbers[0], areNumbersNew || size + 2 == bytes.size() ? 1 : 7);
+        EXPECT_EQ(read.numbers[2], areNumbersNew || size + 2 == bytes.size() ? 3 : 9);
+    }
+    // The name of the numbers takes 16 bytes, the array 6 with its end, each item 15, the object's end 1.
+    EXPECT_EQ(news, 16 + 6 + 3 * 15 + 1);
+}
+
 TEST(StreamDeserializer, SaysWhatItExpected)
 {
     struct Row

@@ -182,20 +182,24 @@ private:
         bool present = false;
         load(present);
         if (present)
-            load_override(value.emplace());
+            Detail::readWhole(value, [this](T & copy) { load_override(copy); });
         else
             value.reset();
     }
     template <class T, std::size_t N> void load_override(std::array<T, N> & values)
     {
-        for (T & value : values)
-            load_override(value);
+        Detail::readWhole(values, [this](std::array<T, N> & copy) {
+            for (T & value : copy)
+                load_override(value);
+        });
     }
     template <class T> void load_override(std::deque<T> & elements)
     {
+        std::uint64_t const count = beginCollection();
+        // Not before: a stream that ends in the count leaves the list alone.
         elements.clear();
         // Never reserved: the count is believed only as far as elements follow.
-        for (std::uint64_t count = beginCollection(); count > 0; --count)
+        for (std::uint64_t left = count; left > 0; --left)
             load_override(elements.emplace_back());
     }
     void load_override(boost::archive::class_name_type & name);

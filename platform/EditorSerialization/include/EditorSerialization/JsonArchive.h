@@ -228,15 +228,17 @@ private:
         if (isNull())
             value.reset();
         else
-            load_override(value.emplace());
+            Serialize::Detail::readWhole(value, [this](T & copy) { load_override(copy); });
     }
     template <class T, std::size_t N> void load_override(std::array<T, N> & values)
     {
         if (arraySize() != N)
             fail(
                 "an array of " + std::to_string(N) + " items is expected, this one has " + std::to_string(arraySize()));
-        for (std::size_t index = 0; index < N; ++index)
-            loadElement(index, values[index]);
+        Serialize::Detail::readWhole(values, [this](std::array<T, N> & copy) {
+            for (std::size_t index = 0; index < N; ++index)
+                loadElement(index, copy[index]);
+        });
     }
     template <class T> void load_override(std::deque<T> & elements)
     {

@@ -10,6 +10,7 @@
 #include <memory>
 #include <optional>
 #include <type_traits>
+#include <utility>
 
 #include <boost/serialization/base_object.hpp>
 #include <boost/serialization/nvp.hpp>
@@ -61,6 +62,23 @@ template <class T> struct IsOwningPointer : std::false_type
 {};
 template <class T> struct IsOwningPointer<std::unique_ptr<T>> : std::true_type
 {};
+
+/// Reads over a copy, which becomes the value when it has been read whole. Keys that are absent keep what the value
+/// was, and a read that fails leaves the value alone.
+template <class T, class Read> void readWhole(T & value, Read const & read)
+{
+    T copy = value;
+    read(copy);
+    value = std::move(copy);
+}
+
+/// The same for an optional value that is present in the archive.
+template <class T, class Read> void readWhole(std::optional<T> & value, Read const & read)
+{
+    T copy = value.value_or(T());
+    read(copy);
+    value = std::move(copy);
+}
 
 template <class T> void writeContent(ISerializer & serializer, T const & value)
 {
@@ -115,18 +133,20 @@ template <class T> void readContent(IDeserializer & deserializer, T & value)
             throw ArchiveError(ArchiveError::other_exception, "an array has " + std::to_string(count) +
                                                                   " items where " + std::to_string(value.size()) +
                                                                   " are expected");
-        std::int32_t number = 0;
-        for (auto & element : value) {
-            values.beginItem(++number);
-            readContent(deserializer, element);
-            values.endItem();
-        }
+        readWhole(value, [&](T & copy) {
+            std::int32_t number = 0;
+            for (auto & element : copy) {
+                values.beginItem(++number);
+                readContent(deserializer, element);
+                values.endItem();
+            }
+        });
         values.endArray();
     } else if constexpr (IsOptional<T>::value) {
         bool present = false;
         values.value(present);
         if (present)
-            readContent(deserializer, value.emplace());
+            readWhole(value, [&](auto & copy) { readContent(deserializer, copy); });
         else
             value.reset();
     } else if constexpr (IsOwningPointer<T>::value) {
