@@ -306,6 +306,39 @@ void iarchive::enter(Level level)
 {
     // What is referred to may refer on; more often than objects can nest it is a circle.
     for (int steps = 0; auto const id = getReferenceObjectId(*level.value);) {
+oarchive::Draft::Draft(oarchive & archive)
+    : m_archive(archive)
+    , m_value(std::make_unique<json>())
+{
+    archive.m_stack.push_back(m_value.get());
+}
+
+oarchive::Draft::~Draft()
+{
+    // With all that was being filled when the save failed.
+    m_archive.m_stack.resize(1);
+}
+
+void oarchive::Draft::keep(char const * key)
+{
+    json & document = *m_archive.m_stack.front();
+    if (!key) {
+        document = std::move(*m_value);
+        return;
+    }
+    if (!document.is_object())
+        document = json::object();
+    document[key] = std::move(*m_value);
+}
+
+void oarchive::forget(char const * key)
+{
+    if (!key)
+        head() = nullptr;
+    else if (head().is_object())
+        head().erase(key);
+}
+
         if (++steps > maxObjectDepth)
             fail("the references form a circle");
         follow(level, *id);

@@ -191,6 +191,112 @@ TEST(JsonArchive, AValueInAnOptionalOrAnArrayIsReplacedAsAWhole)
     EXPECT_EQ(parcel.numbers, (std::array<double, 3>{1, 2, 3}));
 }
 
+template <class Value> void saveInto(json & document, Value const & value)
+{
+    Serialize::Json::oarchive archive(document);
+    archive << value;
+}
+
+TEST(JsonArchive, AValueTakesTheDocumentsPlace)
+{
+    Branch branch;
+    branch.leaves.resize(1);
+    Leaf const leaf;
+    ISerializable const * const pointer = &branch;
+    ISerializable const * const null = nullptr;
+    std::unique_ptr<ISerializable> const owner;
+    for (json const & used : {json(), json(7), json{{"old", 1}}, json::array({1, 2}), saved(branch), saved(leaf)}) {
+        SCOPED_TRACE(used);
+        json document = used;
+        saveInto(document, branch);
+        EXPECT_EQ(document, saved(branch));
+        document = used;
+        saveInto(document, leaf);
+        EXPECT_EQ(document, saved(leaf));
+        document = used;
+        saveInto(document, pointer);
+        EXPECT_EQ(document, saved(branch));
+        document = used;
+        saveInto(document, null);
+        EXPECT_EQ(document, json());
+        document = used;
+        saveInto(document, owner);
+        EXPECT_EQ(document, json());
+        document = used;
+        saveInto(document, std::array<double, 2>{0.5, 1.5});
+        EXPECT_EQ(document, (json{0.5, 1.5}));
+        document = used;
+        saveInto(document, std::string("text"));
+        EXPECT_EQ(document, "text");
+    }
+}
+
+TEST(JsonArchive, AnArchiveCanSaveMoreThanOnce)
+{
+    Branch branch;
+    branch.leaves.resize(1);
+    Leaf const leaf;
+    json document;
+    Serialize::Json::oarchive archive(document);
+    archive << branch << branch;
+    EXPECT_EQ(document, saved(branch));
+    EXPECT_EQ(&archive.head(), &document);
+    archive << leaf;
+    EXPECT_EQ(document, saved(leaf));
+}
+
+TEST(JsonArchive, AValueWithAKeyTakesThePlaceOfItsKeyAlone)
+{
+    using Serialize::field;
+    Branch branch;
+    branch.leaves.resize(1);
+    Host::Parcel parcel;
+    json document{{"kept", {1, 2}}, {"branch", {{"leaves", {7}}, {"old", 1}}}, {"leaf", {{"number", 9}}}};
+    Serialize::Json::oarchive archive(document);
+    archive << field("branch", branch) << field("branch", branch);
+    EXPECT_EQ(document["branch"], saved(branch));
+    EXPECT_EQ(document["leaf"], (json{{"number", 9}}));
+    // A value that is absent has no key.
+    archive << field("leaf", parcel.leaf);
+    EXPECT_FALSE(document.contains("leaf"));
+    EXPECT_EQ(document["kept"], (json{1, 2}));
+    parcel.leaf.emplace();
+    archive & field("leaf", parcel.leaf);
+    EXPECT_EQ(document["leaf"], saved(*parcel.leaf));
+    std::nullptr_t const none = nullptr;
+    archive << field("kept", none);
+    EXPECT_EQ(document["kept"], json());
+    EXPECT_EQ(document.size(), 3U);
+
+    json number = 5;
+    Serialize::Json::oarchive(number) << field("branch", branch);
+    EXPECT_EQ(number, (json{{"branch", saved(branch)}}));
+}
+
+TEST(JsonArchive, AFailedSaveLeavesTheDocument)
+{
+    Node node;
+    node.children.push_back(std::make_unique<Leaf>());
+    node.children.push_back(std::make_unique<Node>());
+    dynamic_cast<Node &>(*node.children[1]).children.push_back(std::make_unique<Host::Unknown>());
+    json const before{{"old", {1}}, {"node", 2}};
+    json document = before;
+    Serialize::Json::oarchive archive(document);
+    EXPECT_THROW(archive << node, archive_exception);
+    EXPECT_EQ(document, before);
+    EXPECT_EQ(&archive.head(), &document);
+    EXPECT_THROW(archive << Serialize::field("node", node), archive_exception);
+    EXPECT_EQ(document, before);
+    EXPECT_THROW(archive << Serialize::field("other", node), archive_exception);
+    EXPECT_EQ(document, before);
+    EXPECT_EQ(&archive.head(), &document);
+    // And the archive can be used again, to its full depth.
+    auto const deepest = Host::nested(Serialize::maxObjectDepth);
+    ISerializable const * const pointer = deepest.get();
+    archive << pointer;
+    EXPECT_EQ(document, saved(pointer));
+}
+
 TEST(JsonArchive, WrongValuesAreToldWithTheirPlace)
 {
     EXPECT_EQ(errorOf<Leaf>({{"real", "much"}}), "a number is expected, found string, at /real");

@@ -2,7 +2,9 @@
 /// The readable archives: one JSON document with keyed values.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -59,8 +61,12 @@ EDITORSERIALIZATION_EXPORT void load(nlohmann::json const & value, unsigned & nu
 EDITORSERIALIZATION_EXPORT void load(nlohmann::json const & value, std::int64_t & number);
 } // namespace Detail
 
-/// Writes into a document, which must outlive the archive. Throws `boost::archive::archive_exception`: code 2 for an
-/// unregistered class or one without an archive name, 10 for an unregistered cast.
+/// Writes into a document, which must outlive the archive. A value takes the place of the document, a value with a key
+/// (`archive << field("key", value)`) the place of what the document has under that key. A save that throws leaves the
+/// document as it was.
+///
+/// Throws `boost::archive::archive_exception`: code 2 for an unregistered class or one without an archive name, 10 for
+/// an unregistered cast.
 class EDITORSERIALIZATION_EXPORT oarchive : public boost::archive::detail::common_oarchive<oarchive>
 {
     using Framework = boost::archive::detail::common_oarchive<oarchive>;
@@ -68,11 +74,29 @@ class EDITORSERIALIZATION_EXPORT oarchive : public boost::archive::detail::commo
     friend class boost::archive::save_access;
 
 public:
-    /// @param document  written over
+    /// @param document  left as it is until something is saved
     explicit oarchive(nlohmann::json & document);
     ~oarchive() override;
 
-    /// The value being filled.
+    /// Saves a value. Hides the operator of the framework, which also saves the parts of a value.
+    template <class T> oarchive & operator<<(T const & value)
+    {
+        if (isSaving())
+            save_override(value);
+        else
+            saveWhole(nullptr, value);
+        return *this;
+    }
+    template <class T> oarchive & operator<<(boost::serialization::nvp<T> const & value)
+    {
+        if (isSaving())
+            save_override(value);
+        else
+            saveWhole(value.name(), value.const_value());
+        return *this;
+    }
+
+    /// The value being filled; the document, while nothing is being saved.
     nlohmann::json & head() { return *m_stack.back(); }
 
     /// @{
@@ -85,6 +109,38 @@ public:
 
 private:
     // The framework's own records are classes; none of them reaches a document.
+    /// A value that is built apart from the document, and moved into it when it is whole.
+    class EDITORSERIALIZATION_EXPORT Draft
+    {
+    public:
+        explicit Draft(oarchive & archive);
+        ~Draft();
+        Draft(Draft const &) = delete;
+        Draft & operator=(Draft const &) = delete;
+        /// @param key  where the value goes in the document; null to make it the document
+        void keep(char const * key);
+
+    private:
+        oarchive & m_archive;
+        std::unique_ptr<nlohmann::json> m_value;
+    };
+
+    bool isSaving() const { return m_stack.size() > 1; }
+    template <class T> void saveWhole(char const * key, T const & value)
+    {
+        Draft draft(*this);
+        save_override(value);
+        draft.keep(key);
+    }
+    template <class T> void saveWhole(char const * key, std::optional<T> const & value)
+    {
+        if (value)
+            saveWhole(key, *value);
+        else
+            forget(key);
+    }
+    void forget(char const * key);
+
     template <class T> void save([[maybe_unused]] T const & value)
     {
         if constexpr (!std::is_class_v<T>)
@@ -115,6 +171,7 @@ private:
     void save_override(QString const & text);
     void save_override(std::string const & text);
     template <class T> void save_override(std::unique_ptr<T> const & object) { saveObject(object.get()); }
+    void save_override(std::nullptr_t) {} // null is what a value is until it is filled
     template <class T, std::size_t N> void save_override(std::array<T, N> const & values) { saveElements(values); }
     template <class T> void save_override(std::deque<T> const & elements) { saveElements(elements); }
 
@@ -139,7 +196,7 @@ private:
     void beginArray(std::size_t size);
     void pushElement();
 
-    std::vector<nlohmann::json *> m_stack; // the top is the head
+    std::vector<nlohmann::json *> m_stack; // the document, then the values that are being filled; the top is the head
     Serialize::Detail::OutputClasses<oarchive> m_classes;
     int m_depth = 0;
 };
