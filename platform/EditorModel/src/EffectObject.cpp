@@ -1,5 +1,14 @@
 #include <EditorModel/EffectObject.h>
 
+#include <cstddef>
+#include <mutex>
+#include <shared_mutex>
+#include <string>
+#include <type_traits>
+#include <unordered_map>
+
+#include <EditorSerialization/Registry.h>
+
 #include "Instantiate.h"
 
 using Serialize::field;
@@ -14,6 +23,38 @@ Payload::DownloadResourceType Payload::downloadResourceType() const
 } // namespace EditorCollection
 
 namespace Effect {
+
+namespace {
+
+/// Whether a new effect of the same class has a range.
+bool isConstructedWithRange(Object const & effect)
+{
+    struct Classes
+    {
+        std::shared_mutex mutex;
+        std::unordered_map<std::string, bool> byName;
+    };
+    // Never destroyed: effects may still be saved by the destructors of statics.
+    static auto & classes = *new Classes;
+
+    std::string const name = effect.GetNameInArchive();
+    {
+        std::shared_lock const lock(classes.mutex);
+        auto const known = classes.byName.find(name);
+        if (known != classes.byName.end())
+            return known->second;
+    }
+    auto const created = ::Serialize::Registry::create(name);
+    auto const * const newEffect = dynamic_cast<Object const *>(created.get());
+    // Not kept: the class may be registered later.
+    if (!newEffect)
+        return false;
+    bool const hasRange = newEffect->range.has_value();
+    std::unique_lock const lock(classes.mutex);
+    return classes.byName.emplace(name, hasRange).first->second;
+}
+
+} // namespace
 
 Object::Object(QString const & effectId, QString const & group)
     : id(effectId)
@@ -64,6 +105,12 @@ template <class Archive> void Object::serialize(Archive & archive)
     Serialize::fields(archive, field("tag", tag), field("id", id), field("groupId", groupId),
         field("intensity", intensity), field("resource", resource), field("resourcePath", resourcePath),
         field("range", range));
+    // Without a key, a range that was removed would come back with the constructor that sets one.
+    if constexpr (std::is_same_v<Archive, ::Serialize::Json::oarchive>) {
+        std::nullptr_t const none = nullptr;
+        if (!range && isConstructedWithRange(*this))
+            Serialize::fields(archive, field("range", none));
+    }
 }
 
 EDITORMODEL_ARCHIVED(Object)

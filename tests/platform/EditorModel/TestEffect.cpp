@@ -22,18 +22,23 @@ template <class Archive> void Effect::serialize(Archive & archive)
     Serialize::fields<Object>(archive, *this, field("level", level));
 }
 
+Ranged::Ranged()
+    : Object("ranged-id", "ranged-id")
+{
+    range = Types::Range(MTime(1), MTime(2));
+}
+
+template <class Archive> void Ranged::serialize(Archive & archive)
+{
+    Serialize::fields<Object>(archive, *this);
+}
+
 template <class Archive> void Record::serialize(Archive &) {}
 
 } // namespace Sample
 
 // What a class of a real library has of its registration.
 #define TEST_CLASS(Class)                                                                                              \
-    template <> struct boost::serialization::guid_defined<Class> : boost::mpl::true_                                   \
-    {};                                                                                                                \
-    template <> struct boost::serialization::ext::guid_impl<Class>                                                     \
-    {                                                                                                                  \
-        static char const * call() { return Class::NameInArchive(); }                                                  \
-    };                                                                                                                 \
     std::string Class::GetNameInArchive() const                                                                        \
     {                                                                                                                  \
         return NameInArchive();                                                                                        \
@@ -46,13 +51,17 @@ template <class Archive> void Record::serialize(Archive &) {}
     {                                                                                                                  \
         serialize(deserializer);                                                                                       \
     }                                                                                                                  \
-    template struct boost::archive::detail::ptr_serialization_support<Serialize::BinaryOArchive, Class>;               \
-    template struct boost::archive::detail::ptr_serialization_support<Serialize::BinaryIArchive, Class>;               \
-    template struct boost::archive::detail::ptr_serialization_support<Serialize::Json::oarchive, Class>;               \
-    template struct boost::archive::detail::ptr_serialization_support<Serialize::Json::iarchive, Class>;               \
-    template struct boost::archive::detail::ptr_serialization_support<Serialize::ObjectTracker, Class>;
+    TEST_ARCHIVE(Class, BinaryOArchive)                                                                                \
+    TEST_ARCHIVE(Class, BinaryIArchive)                                                                                \
+    TEST_ARCHIVE(Class, Json::oarchive)                                                                                \
+    TEST_ARCHIVE(Class, Json::iarchive)                                                                                \
+    TEST_ARCHIVE(Class, ObjectTracker)
+#define TEST_ARCHIVE(Class, Archive)                                                                                   \
+    template void Class::serialize(Serialize::Archive &);                                                              \
+    template struct boost::archive::detail::ptr_serialization_support<Serialize::Archive, Class>;
 
 TEST_CLASS(Sample::Effect)
+TEST_CLASS(Sample::Ranged)
 TEST_CLASS(Sample::Record)
 
 namespace {
@@ -64,6 +73,7 @@ template <class Class> struct Creator final : Serialize::BaseCreator
 };
 
 Serialize::Registrator const effectRegistrator(Sample::Effect::NameInArchive(), new Creator<Sample::Effect>);
+Serialize::Registrator const rangedRegistrator(Sample::Ranged::NameInArchive(), new Creator<Sample::Ranged>);
 Serialize::Registrator const recordRegistrator(Sample::Record::NameInArchive(), new Creator<Sample::Record>);
 
 } // namespace

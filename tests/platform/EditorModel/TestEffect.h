@@ -1,8 +1,11 @@
 /// @file
-/// An effect for tests, registered as "Sample::Effect", and a record that is no effect, "Sample::Record".
+/// Effects for tests, registered as "Sample::Effect" and "Sample::Ranged", and a record that is no effect,
+/// "Sample::Record".
 #pragma once
 
 #include <string>
+
+#include <boost/serialization/export.hpp>
 
 #include <EditorModel/EffectObject.h>
 #include <EditorSerialization/Registry.h>
@@ -23,6 +26,25 @@ public:
     using Object::generateLegacyItemFindingId;
 
     static char const * NameInArchive() { return "Sample::Effect"; }
+    std::string GetNameInArchive() const override;
+    void Serialize(Serialize::ISerializer & serializer) const override;
+    void Deserialize(Serialize::IDeserializer & deserializer) override;
+
+private:
+    friend Serialize::Access;
+    template <class Archive> void serialize(Archive & archive);
+};
+
+/// An effect whose constructor sets a range.
+class Ranged : public ::Effect::Object
+{
+public:
+    Ranged();
+
+    ::Effect::Type type() const override { return ::Effect::Type::Video; }
+    ::Effect::Impl impl() const override { return ::Effect::Impl::Descriptor; }
+
+    static char const * NameInArchive() { return "Sample::Ranged"; }
     std::string GetNameInArchive() const override;
     void Serialize(Serialize::ISerializer & serializer) const override;
     void Deserialize(Serialize::IDeserializer & deserializer) override;
@@ -53,3 +75,7 @@ public:
 };
 
 } // namespace Sample
+
+BOOST_CLASS_EXPORT_KEY(Sample::Effect)
+BOOST_CLASS_EXPORT_KEY(Sample::Ranged)
+BOOST_CLASS_EXPORT_KEY(Sample::Record)
