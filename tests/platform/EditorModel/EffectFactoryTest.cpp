@@ -2,8 +2,13 @@
 
 #include <array>
 #include <cstdint>
+#include <memory>
 #include <stdexcept>
 #include <string>
+#include <type_traits>
+#include <utility>
+
+#include <Settings/SettingsBlur.h>
 
 #include "TestEffect.h"
 
@@ -61,6 +66,33 @@ TEST(EffectFactory, ADefaultRecordIsEmpty)
     EXPECT_TRUE(record.settings.empty());
     EXPECT_EQ(record.stageCode, 0);
     EXPECT_TRUE(record.implementation.empty());
+}
+
+// A copy would have to share or clone what the record owns.
+static_assert(!std::is_copy_constructible_v<EffectSettings>);
+static_assert(!std::is_copy_assignable_v<EffectSettings>);
+static_assert(std::is_nothrow_move_constructible_v<EffectSettings>);
+static_assert(std::is_nothrow_move_assignable_v<EffectSettings>);
+static_assert(std::is_nothrow_default_constructible_v<EffectSettings>);
+
+TEST(EffectFactory, ARecordIsMoved)
+{
+    EffectSettings record{{}, 18, "DEFAULT"};
+    record.settings.push_back(std::make_unique<Quoril::Proc::SettingsEffectBlurGaussian>());
+    auto const * const settings = record.settings[0].get();
+
+    EffectSettings moved(std::move(record));
+    EXPECT_EQ(moved.stageCode, 18);
+    EXPECT_EQ(moved.implementation, "DEFAULT");
+    ASSERT_EQ(moved.settings.size(), 1U);
+    EXPECT_EQ(moved.settings[0].get(), settings);
+
+    EffectSettings assigned{{}, 1, "SPEEX"};
+    assigned = std::move(moved);
+    EXPECT_EQ(assigned.stageCode, 18);
+    EXPECT_EQ(assigned.implementation, "DEFAULT");
+    ASSERT_EQ(assigned.settings.size(), 1U);
+    EXPECT_EQ(assigned.settings[0].get(), settings);
 }
 
 } // namespace

@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include <EditorModel/EffectObject.h>
@@ -14,9 +15,25 @@
 
 namespace Effect::Factory {
 
-/// What the render engine executes for one effect. A record without settings is empty.
+/// What the render engine executes for one effect. A record without settings is empty. It owns its settings, so it is
+/// moved and never copied.
 struct EffectSettings
 {
+    EffectSettings() = default;
+    /// @param itsSettings        in the order of execution
+    /// @param itsStageCode       see `stageCode`
+    /// @param itsImplementation  one of `Quoril::Proc::ImplNames`
+    EffectSettings(std::vector<std::unique_ptr<Quoril::Proc::Settings>> itsSettings, std::uint8_t itsStageCode,
+        std::string itsImplementation)
+        : settings(std::move(itsSettings))
+        , stageCode(itsStageCode)
+        , implementation(std::move(itsImplementation))
+    {}
+    EffectSettings(EffectSettings &&) = default;
+    EffectSettings & operator=(EffectSettings &&) = default;
+    EffectSettings(EffectSettings const &) = delete;
+    EffectSettings & operator=(EffectSettings const &) = delete;
+
     std::vector<std::unique_ptr<Quoril::Proc::Settings>> settings; ///< in the order of execution
     std::uint8_t stageCode = 0; ///< the step of the engine that executes them; its own number
     std::string implementation; ///< one of `Quoril::Proc::ImplNames`
