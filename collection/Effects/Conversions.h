@@ -11,6 +11,7 @@
 #include <limits>
 #include <memory>
 #include <string>
+#include <typeinfo>
 
 #include <EditorModel/EffectFactory.h>
 #include <effects/Artistic.h>
@@ -53,6 +54,20 @@ inline constexpr std::uint8_t oneButton = 19; ///< one-button colour corrections
 /// A record of one settings object.
 EffectSettings makeEffectSettings(
     std::unique_ptr<Proc::Settings> settings, std::uint8_t stageCode, std::string implementation);
+
+/// Throws a `std::bad_cast` that names the effect's identifier, the class that it belongs to, and the effect's class.
+[[noreturn]] void throwWrongClass(Object const & effect, std::type_info const & expected);
+
+/// The effect as an object of the class that its identifier belongs to; throws as `throwWrongClass` for another class.
+template <class Effect> Effect const & castTo(Object const & object)
+{
+    // Nearly every object is of the very class that is asked for, which is seen at a glance.
+    if (typeid(object) == typeid(Effect))
+        return static_cast<Effect const &>(object);
+    if (auto const * const cast = dynamic_cast<Effect const *>(&object))
+        return *cast;
+    throwWrongClass(object, typeid(Effect));
+}
 
 /// The intensity, as most settings classes take it.
 inline float floatIntensity(Object const & effect)

@@ -4,6 +4,8 @@
 #include <typeinfo>
 #include <utility>
 
+#include <boost/core/demangle.hpp>
+
 #include <collection/Effects/Conversions.h>
 #include <collection/Effects/FactoryCaches.h>
 #include <ConfInt/ImplNames.h>
@@ -14,6 +16,24 @@
 #include <glog/logging.h>
 
 namespace Effect::Factory {
+
+void throwWrongClass(Object const & effect, std::type_info const & expected)
+{
+    class WrongClass final : public std::bad_cast
+    {
+    public:
+        explicit WrongClass(std::string text)
+            : m_text(std::move(text))
+        {}
+        char const * what() const noexcept override { return m_text.c_str(); }
+
+    private:
+        std::string m_text;
+    };
+    throw WrongClass("the identifier \"" + effect.id.toStdString() + "\" belongs to the class " +
+                     boost::core::demangle(expected.name()) + ", and the effect is of the class " +
+                     boost::core::demangle(typeid(effect).name()));
+}
 
 EffectSettings makeEffectSettings(
     std::unique_ptr<Proc::Settings> settings, std::uint8_t stageCode, std::string implementation)
@@ -40,14 +60,6 @@ template <class Params> struct Conversion
 };
 
 template <class Params> using Table = QMap<QString, Conversion<Params>>;
-
-/// `dynamic_cast`, which throws for another class; nearly every object is of the very class that is asked for, and
-/// that is seen at a glance.
-template <class Effect> Effect const & castTo(Object const & object)
-{
-    return typeid(object) == typeid(Effect) ? static_cast<Effect const &>(object)
-                                            : dynamic_cast<Effect const &>(object);
-}
 
 /// Casts the effect to its class, which throws for another one, and makes the settings object that `fillAndWrap` turns
 /// into a record.

@@ -90,7 +90,7 @@ std::unique_ptr<Proc::Settings> shadowsAndHighlights(ManualEnhance const & effec
 EffectSettings convertManualEnhance(Object const & object, VideoParams const &)
 {
     static ManualEnhance const atRest;
-    auto const & effect = dynamic_cast<ManualEnhance const &>(object);
+    auto const & effect = castTo<ManualEnhance>(object);
     auto const moved = [&](double ManualEnhance::*slider) { return !fuzzyEqual(effect.*slider, atRest.*slider); };
 
     // Sliders at rest must cost the engine nothing: only those that moved become settings.

@@ -107,7 +107,7 @@ void fill(Proc::SettingsEffectColorBlender & settings, ColorBlending const & eff
 
 EffectSettings convertPictureInPicture(Object const & object, VideoParams const &)
 {
-    auto const & effect = dynamic_cast<PictureInPicture const &>(object);
+    auto const & effect = castTo<PictureInPicture>(object);
     // A sub-frame that was told nothing shows the whole picture in the whole frame.
     if (effect.transform == Types::Transform())
         return makeEffectSettings(

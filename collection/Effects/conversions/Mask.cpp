@@ -160,7 +160,7 @@ std::unique_ptr<Proc::Settings> conceal(FrameConceal const & frame, std::int64_t
 
 EffectSettings convertMask(Object const & object, VideoParams const & params)
 {
-    auto const & effect = dynamic_cast<Mask const &>(object);
+    auto const & effect = castTo<Mask>(object);
     EffectSettings record{{}, Stage::video, Proc::ImplNames::DEFAULT};
     if (!effect.highlightFrames.empty())
         record.settings.push_back(highlight(effect, params.duration));

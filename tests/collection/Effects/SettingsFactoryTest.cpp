@@ -3,6 +3,7 @@
 #include <typeinfo>
 
 #include <effects/Effects.h>
+#include <effects/PrivateIdentity.h>
 #include <support/Conversion.h>
 
 #include <gmock/gmock.h>
@@ -60,6 +61,35 @@ TEST_F(SettingsFactoryTest, AWrongClassBehindAnIdentifierIsABadCast)
 {
     EXPECT_THROW(Factory::videoEffectSettings(VideoEffect(Id::AutoContrast, Id::AutoContrast), {}), std::bad_cast);
     EXPECT_THROW(Factory::videoEffectSettings(VideoEffect(Id::ManualEnhance, Id::ManualEnhance), {}), std::bad_cast);
+    // The three kinds of rows, and one of the other table.
+    struct
+    {
+        QString identifier;
+        char const * expected;
+    } const rows[] = {
+        {Id::AutoContrast, "Effect::AutoContrast"},
+        {Id::Blur, "Effect::Blur"},
+        {Id::ManualEnhance, "Effect::ManualEnhance"},
+        {Id::PictureInPicture, "Effect::PictureInPicture"},
+        {Id::Mask, "Effect::Mask"},
+        {Id::ColorMixField, "Effect::ColorMixField"},
+        {Id::AudioEcho, "Effect::AudioEcho"},
+    };
+    for (auto const & row : rows) {
+        SCOPED_TRACE(row.expected);
+        Crop effect;
+        effect.id = row.identifier;
+        try {
+            if (row.identifier == Id::AudioEcho)
+                Factory::audioEffectSettings(effect, {});
+            else
+                Factory::videoEffectSettings(effect, {});
+            ADD_FAILURE() << "was converted";
+        } catch (std::bad_cast const & error) {
+            EXPECT_EQ(error.what(), "the identifier \"" + row.identifier.toStdString() + "\" belongs to the class " +
+                                        row.expected + ", and the effect is of the class Effect::Crop");
+        }
+    }
     // The table is intact afterwards.
     EXPECT_EQ(convert(AutoContrast()).settings.size(), 1U);
 }
