@@ -20,7 +20,7 @@ public:
         char * const start = const_cast<char *>(bytes.data());
         setg(start, start, start + bytes.size());
     }
-    bool atEnd() const { return gptr() == egptr(); }
+    std::size_t offset() const { return static_cast<std::size_t>(gptr() - eback()); }
 };
 
 /// Appends to a string.
@@ -85,8 +85,9 @@ std::unique_ptr<Object> fromBinary(std::string_view bytes)
     Serialize::BinaryIArchive archive(reader);
     std::unique_ptr<Object> effect;
     archive >> effect;
-    if (!reader.atEnd())
-        throw Serialize::ArchiveError(Serialize::ArchiveError::other_exception, "the archive goes on after the effect");
+    if (reader.offset() != bytes.size())
+        throw Serialize::ArchiveError(Serialize::ArchiveError::other_exception,
+            "the archive goes on after the effect, at byte " + std::to_string(reader.offset()));
     return notNull(std::move(effect));
 }
 

@@ -205,8 +205,7 @@ BinaryIArchive::Loaded BinaryIArchive::loadPointed()
         m_bytes.readShort(name, longestClassName);
         Detail::InputClass * const named = m_classes.named(name);
         if (!named)
-            throw ArchiveError(ArchiveError::unregistered_class,
-                "unregistered class - \"" + name + "\", before byte " + std::to_string(m_bytes.offset()));
+            m_bytes.fail("unregistered class - \"" + name + '"', ArchiveError::unregistered_class);
         if (named->id != id)
             m_bytes.fail("the class " + name + " has another number than before");
         type = named;
@@ -227,8 +226,8 @@ BinaryIArchive::Loaded BinaryIArchive::loadPointed()
 
     Loaded loaded{Registry::create(type->name), nullptr};
     if (!loaded.object)
-        throw ArchiveError(ArchiveError::unregistered_class,
-            "unregistered class - \"" + std::string(type->name) + "\" cannot be made by name");
+        m_bytes.fail("unregistered class - \"" + std::string(type->name) + "\" cannot be made by name",
+            ArchiveError::unregistered_class);
     DepthGuard const guard(m_depth, [this](std::string const & problem) { m_bytes.fail(problem); });
     type->serializer->load_object_data(*this, dynamic_cast<void *>(loaded.object.get()), type->version);
     if (type->tracked)
@@ -243,9 +242,8 @@ void BinaryIArchive::readClassInformation(Detail::InputClass & type)
     m_bytes.read(type.tracked);
     m_bytes.read(type.version);
     if (type.version > classVersion(*type.serializer))
-        throw ArchiveError(ArchiveError::unsupported_class_version,
-            "the class " + std::string(type.name) + " has the version " + std::to_string(type.version) +
-                ", before byte " + std::to_string(m_bytes.offset()));
+        m_bytes.fail("the class " + std::string(type.name) + " has the version " + std::to_string(type.version),
+            ArchiveError::unsupported_class_version);
     type.announced = true;
 }
 

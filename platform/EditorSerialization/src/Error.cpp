@@ -1,16 +1,32 @@
 #include <EditorSerialization/Error.h>
 
-#include <utility>
-
 #include <EditorSerialization/ISerializable.h>
+
+#include <QString>
 
 namespace Serialize {
 
+namespace {
+
+std::string presentable(std::string const & text)
+{
+    constexpr int longestHalf = 1000; // in UTF-16 units
+    QString line = QString::fromStdString(text);
+    if (line.size() > 2 * longestHalf)
+        line = line.left(longestHalf) + QStringLiteral(" ... ") + line.right(longestHalf);
+    for (QChar & unit : line)
+        if (unit.category() == QChar::Other_Control)
+            unit = QChar::ReplacementCharacter;
+    return line.toStdString();
+}
+
+} // namespace
+
 ISerializable::~ISerializable() = default;
 
-ArchiveError::ArchiveError(exception_code errorCode, std::string text)
+ArchiveError::ArchiveError(exception_code errorCode, std::string const & text)
     : archive_exception(errorCode)
-    , m_text(std::move(text))
+    , m_text(presentable(text))
 {}
 
 ArchiveError::ArchiveError(ArchiveError const &) noexcept = default;

@@ -1,5 +1,7 @@
 #include <EditorSerialization/JsonArchive.h>
 
+#include <algorithm>
+#include <iterator>
 #include <stdexcept>
 
 #include <boost/archive/impl/archive_serializer_map.ipp>
@@ -38,11 +40,82 @@ json const * metaMember(json const & value, std::string_view key)
     return meta ? member(*meta, key) : nullptr;
 }
 
-/// Builds the tree of a text, as the library's own builder does, and counts the depth on the way.
+/// "line 2, column 7" of a byte, both counted from 1 and the column in bytes.
+std::string lineAndColumn(std::string_view text, std::size_t offset)
+{
+    std::string_view const before = text.substr(0, offset);
+    std::size_t const lineStart = before.rfind('\n') + 1; // 0 when there is none
+    return "line " + std::to_string(1 + std::count(before.begin(), before.end(), '\n')) + ", column " +
+           std::to_string(1 + before.size() - lineStart);
+}
+
+/// A key or an index as one step of a JSON pointer.
+std::string pointerStep(std::string_view key)
+{
+    std::string step = "/";
+    for (char const unit : key) {
+        if (unit == '~')
+            step += "~0";
+        else if (unit == '/')
+            step += "~1";
+        else
+            step += unit;
+    }
+    return step;
+}
+
+std::string pointerStep(std::size_t index)
+{
+    return '/' + std::to_string(index);
+}
+
+/// How messages show a JSON pointer. That of the whole document is empty.
+std::string place(std::string const & pointer)
+{
+    return "at " + (pointer.empty() ? "/" : pointer);
+}
+
+[[noreturn]] void failAt(std::string const & pointer, std::string const & problem,
+    ArchiveError::exception_code code = ArchiveError::other_exception)
+{
+    throw ArchiveError(code, problem + ", " + place(pointer));
+}
+
+/// The pointer of a value within the document, which is known by its address.
+std::string pointerTo(json const & document, json const & sought)
+{
+    struct Level
+    {
+        json const * value;
+        json::const_iterator next;
+    };
+    std::vector<Level> levels;
+    for (json const * value = &document; value != &sought; value = &*levels.back().next++) {
+        if (value->is_structured())
+            levels.push_back({value, value->begin()});
+        while (!levels.empty() && levels.back().next == levels.back().value->end())
+            levels.pop_back();
+        if (levels.empty())
+            return {};
+    }
+    std::string pointer;
+    for (Level const & level : levels) {
+        auto const entered = std::prev(level.next);
+        pointer += level.value->is_array() ? pointerStep(static_cast<std::size_t>(entered - level.value->begin()))
+                                           : pointerStep(entered.key());
+    }
+    return pointer;
+}
+
+/// Builds the tree of a text, as the library's own builder does, counts the depth on the way, and knows the place of
+/// what it cannot read.
 class TreeBuilder
 {
 public:
-    explicit TreeBuilder(json & root) { m_stack.push_back(&root); }
+    TreeBuilder(std::string_view text, json & root)
+        : m_text(text)
+        , m_root(root)
+    {}
 
     bool null() { return put(nullptr); }
     bool boolean(bool value) { return put(value); }
@@ -55,25 +128,40 @@ public:
     bool key(json::string_t & key)
     {
         // The keys of a document that was written here come in order.
-        auto & object = m_stack.back()->get_ref<json::object_t &>();
-        m_slot = &object.emplace_hint(object.end(), std::move(key), nullptr)->second;
+        auto & object = m_open.back().value->get_ref<json::object_t &>();
+        m_open.back().slot = object.emplace_hint(object.end(), std::move(key), nullptr);
         return true;
     }
     bool end_object() { return close(); }
     bool start_array(std::size_t) { return open(json::value_t::array); }
     bool end_array() { return close(); }
-    bool parse_error(std::size_t, std::string const &, nlohmann::detail::exception const & error)
+    /// @param end    bytes of the text up to the end of what cannot be read
+    /// @param token  what cannot be read
+    bool parse_error(std::size_t end, std::string const & token, nlohmann::detail::exception const & error)
     {
-        throw ArchiveError(ArchiveError::input_stream_error, std::string("this is no JSON: ") + error.what());
+        // Of all errors, a number that no double holds is the one whose message does not say where it is.
+        constexpr int numberOverflow = 406;
+        std::string problem = error.what();
+        problem.erase(0, problem.find("] ") + 2); // "[json.exception.parse_error.101] parse error at line 1, ..."
+        if (error.id == numberOverflow)
+            problem = "the number " + token + " is out of range, " + lineAndColumn(m_text, end - token.size());
+        failAt(pointer(), "this is no JSON: " + problem, ArchiveError::input_stream_error);
     }
 
 private:
+    using Slot = json::object_t::iterator;
+    struct Open
+    {
+        json * value;
+        Slot slot; // of an object: the key that was read last; its end before the first key
+    };
+
     json & slot()
     {
-        json & top = *m_stack.back();
-        if (m_stack.size() == 1)
-            return top;
-        return top.is_array() ? top.emplace_back() : *m_slot;
+        if (m_open.empty())
+            return m_root;
+        json & top = *m_open.back().value;
+        return top.is_array() ? top.emplace_back() : m_open.back().slot->second;
     }
     template <class T> bool put(T && value)
     {
@@ -82,22 +170,58 @@ private:
     }
     bool open(json::value_t type)
     {
-        if (m_stack.size() > maxDocumentDepth)
-            throw ArchiveError(ArchiveError::other_exception,
-                "the JSON text is nested more than " + std::to_string(maxDocumentDepth) + " deep");
+        if (m_open.size() == maxDocumentDepth)
+            failAt(pointer(), "the JSON text is nested more than " + std::to_string(maxDocumentDepth) + " deep, " +
+                                  lineAndColumn(m_text, tooDeepAt()));
         json & opened = slot();
         opened = json(type);
-        m_stack.push_back(&opened);
+        m_open.push_back({&opened, type == json::value_t::object ? opened.get_ref<json::object_t &>().end() : Slot()});
         return true;
     }
     bool close()
     {
-        m_stack.pop_back();
+        m_open.pop_back();
         return true;
     }
 
-    std::vector<json *> m_stack; // the root's slot, then every array and object that is open
-    json * m_slot = nullptr;     // of the key read last
+    /// Of the value that is being read.
+    std::string pointer() const
+    {
+        std::string pointer;
+        for (Open const & level : m_open) {
+            // The innermost array has no element yet for the value that is being read.
+            if (level.value->is_array())
+                pointer += pointerStep(level.value->size() - (&level == &m_open.back() ? 0 : 1));
+            else if (level.slot != level.value->get_ref<json::object_t const &>().end())
+                pointer += pointerStep(level.slot->first);
+        }
+        return pointer;
+    }
+
+    /// The offset of the bracket that opens one level too many. The text before it has been parsed, so that brackets
+    /// and quotation marks can be believed.
+    std::size_t tooDeepAt() const
+    {
+        int depth = 0;
+        bool isInString = false;
+        std::size_t offset = 0;
+        for (; depth <= maxDocumentDepth; ++offset) {
+            char const unit = m_text[offset];
+            if (isInString && unit == '\\')
+                ++offset;
+            else if (unit == '"')
+                isInString = !isInString;
+            else if (!isInString && (unit == '[' || unit == '{'))
+                ++depth;
+            else if (!isInString && (unit == ']' || unit == '}'))
+                --depth;
+        }
+        return offset - 1;
+    }
+
+    std::string_view m_text;
+    json & m_root;
+    std::vector<Open> m_open; // every array and object that is open
 };
 
 /// Every object of the document that carries a number. Documents are walked without recursion, whatever their depth.
@@ -115,11 +239,25 @@ std::unordered_map<std::int64_t, json const *> numberedObjects(json const & docu
         json const * const id = metaMember(value, s_id);
         if (!id || !id->is_number_integer())
             continue;
-        if (!objects.emplace(id->get<std::int64_t>(), &value).second)
-            throw ArchiveError(
-                ArchiveError::other_exception, "two objects of the document have the number " + id->dump());
+        std::int64_t number = 0;
+        try {
+            Detail::load(*id, number);
+        } catch (ArchiveError const & error) {
+            failAt(pointerTo(document, *id), error.what());
+        }
+        auto const [known, isNew] = objects.emplace(number, &value);
+        if (!isNew)
+            throw ArchiveError(ArchiveError::other_exception,
+                "two objects of the document have the number " + id->dump() + ", " + place(pointerTo(document, value)) +
+                    " and " + place(pointerTo(document, *known->second)));
     }
     return objects;
+}
+
+/// The text of a string, for a message. It is not dumped: a document that was built by hand may hold any bytes.
+std::string quoted(json const & text)
+{
+    return '"' + text.get_ref<std::string const &>() + '"';
 }
 
 /// How much reading the value costs.
@@ -144,10 +282,10 @@ json parse(std::string_view text)
 {
     // The library would take it for the end of the text.
     if (std::size_t const place = text.find('\0'); place != text.npos)
-        throw ArchiveError(
-            ArchiveError::input_stream_error, "this is no JSON: byte " + std::to_string(place + 1) + " is zero");
+        throw ArchiveError(ArchiveError::input_stream_error,
+            "this is no JSON: byte " + std::to_string(place + 1) + " is zero, " + lineAndColumn(text, place));
     json document;
-    TreeBuilder builder(document);
+    TreeBuilder builder(text, document);
     json::sax_parse(text.begin(), text.end(), &builder);
     return document;
 }
@@ -167,6 +305,39 @@ oarchive::oarchive(json & document)
 {}
 
 oarchive::~oarchive() = default;
+
+oarchive::Draft::Draft(oarchive & archive)
+    : m_archive(archive)
+    , m_value(std::make_unique<json>())
+{
+    archive.m_stack.push_back(m_value.get());
+}
+
+oarchive::Draft::~Draft()
+{
+    // With all that was being filled when the save failed.
+    m_archive.m_stack.resize(1);
+}
+
+void oarchive::Draft::keep(char const * key)
+{
+    json & document = *m_archive.m_stack.front();
+    if (!key) {
+        document = std::move(*m_value);
+        return;
+    }
+    if (!document.is_object())
+        document = json::object();
+    document[key] = std::move(*m_value);
+}
+
+void oarchive::forget(char const * key)
+{
+    if (!key)
+        head() = nullptr;
+    else if (head().is_object())
+        head().erase(key);
+}
 
 void oarchive::register_basic_serializer(boost::archive::detail::basic_oserializer const & serializer)
 {
@@ -249,7 +420,7 @@ void iarchive::load_object(void * object, boost::archive::detail::basic_iseriali
     Serialize::Detail::InputClass const & type = m_classes.of(serializer);
     json const * const name = className();
     if (name && name->get_ref<std::string const &>() != type.name)
-        fail("an object of the class " + std::string(type.name) + " is expected, found " + name->dump());
+        fail("an object of the class " + std::string(type.name) + " is expected, found " + quoted(*name));
     serializer.load_object_data(*this, object, 0);
 }
 
@@ -265,7 +436,7 @@ std::unique_ptr<ISerializable> iarchive::loadPointed()
     Serialize::Detail::InputClass const * const type = m_classes.named(name->get_ref<std::string const &>());
     std::unique_ptr<ISerializable> object = type ? Registry::create(type->name) : nullptr;
     if (!object)
-        fail("unregistered class - " + name->dump(), boost::archive::archive_exception::unregistered_class);
+        fail("unregistered class - " + quoted(*name), boost::archive::archive_exception::unregistered_class);
     DepthGuard const guard(m_depth, [this](std::string const & problem) { fail(problem); });
     type->serializer->load_object_data(*this, dynamic_cast<void *>(object.get()), 0);
     return object;
@@ -302,51 +473,40 @@ bool iarchive::isNull() const
     return head().is_null();
 }
 
-void iarchive::enter(Level level)
+void iarchive::enter(Level const & level)
 {
-    // What is referred to may refer on; more often than objects can nest it is a circle.
-    for (int steps = 0; auto const id = getReferenceObjectId(*level.value);) {
-oarchive::Draft::Draft(oarchive & archive)
-    : m_archive(archive)
-    , m_value(std::make_unique<json>())
-{
-    archive.m_stack.push_back(m_value.get());
-}
-
-oarchive::Draft::~Draft()
-{
-    // With all that was being filled when the save failed.
-    m_archive.m_stack.resize(1);
-}
-
-void oarchive::Draft::keep(char const * key)
-{
-    json & document = *m_archive.m_stack.front();
-    if (!key) {
-        document = std::move(*m_value);
-        return;
-    }
-    if (!document.is_object())
-        document = json::object();
-    document[key] = std::move(*m_value);
-}
-
-void oarchive::forget(char const * key)
-{
-    if (!key)
-        head() = nullptr;
-    else if (head().is_object())
-        head().erase(key);
-}
-
-        if (++steps > maxObjectDepth)
-            fail("the references form a circle");
-        follow(level, *id);
-    }
     m_stack.push_back(level);
+    try {
+        followReferences();
+    } catch (...) {
+        m_stack.pop_back();
+        throw;
+    }
 }
 
-void iarchive::follow(Level & level, std::int64_t id)
+void iarchive::followReferences()
+{
+    Level const referrer = m_stack.back();
+    // What is referred to may refer on; more often than objects can nest it is a circle.
+    for (int steps = 0; auto const id = referenceHere(); ++steps) {
+        if (steps == maxObjectDepth) {
+            m_stack.back() = referrer;
+            fail("the references form a circle");
+        }
+        follow(*id);
+    }
+}
+
+std::optional<std::int64_t> iarchive::referenceHere() const
+{
+    try {
+        return getReferenceObjectId(head());
+    } catch (ArchiveError const & error) {
+        failAt(pointer() + pointerStep(s_meta) + pointerStep(s_reference), error.what());
+    }
+}
+
+void iarchive::follow(std::int64_t id)
 {
     if (!m_referredKnown) {
         m_referred = numberedObjects(*m_document);
@@ -357,31 +517,34 @@ void iarchive::follow(Level & level, std::int64_t id)
         throw std::out_of_range("invalid map<K, T> key");
     // An object inside itself would go on for ever.
     int inside = 0;
-    for (Level const & outer : m_stack)
-        inside += outer.followed ? 1 : 0;
+    for (auto outer = m_stack.begin(); outer != std::prev(m_stack.end()); ++outer)
+        inside += outer->followed ? 1 : 0;
     if (inside >= maxObjectDepth)
         fail("references are nested more than " + std::to_string(maxObjectDepth) + " deep");
     m_copied += weight(*found->second);
     if (m_copied > maxCopied)
         fail("the references of the document stand for too much");
-    level.value = found->second;
-    level.followed = true;
+    m_stack.back().value = found->second;
+    m_stack.back().followed = true;
 }
 
-std::string iarchive::where() const
+std::string iarchive::pointer() const
 {
-    std::string path;
-    for (std::size_t depth = 1; depth < m_stack.size(); ++depth) {
+    // Whatever a reference led to has its own place in the document.
+    std::size_t depth = m_stack.size() - 1;
+    while (depth > 0 && !m_stack[depth].followed)
+        --depth;
+    std::string pointer = pointerTo(*m_document, *m_stack[depth].value);
+    while (++depth < m_stack.size()) {
         Level const & level = m_stack[depth];
-        path += '/';
-        path += level.key ? std::string(level.key) : std::to_string(level.index);
+        pointer += level.key ? pointerStep(level.key) : pointerStep(level.index);
     }
-    return path.empty() ? "/" : path;
+    return pointer;
 }
 
 void iarchive::fail(std::string const & problem, boost::archive::archive_exception::exception_code code) const
 {
-    throw ArchiveError(code, problem + ", at " + where());
+    failAt(pointer(), problem, code);
 }
 
 } // namespace Serialize::Json

@@ -193,8 +193,7 @@ void StreamDeserializer::read(std::unique_ptr<ISerializable> & holder)
     m_bytes.readShort(name, longestName);
     auto object = Registry::create(name);
     if (!object)
-        throw ArchiveError(ArchiveError::unregistered_class,
-            "unregistered class - \"" + name + "\", before byte " + std::to_string(m_bytes.offset()));
+        m_bytes.fail("unregistered class - \"" + name + '"', ArchiveError::unregistered_class);
     DepthGuard const guard(m_depth, [this](std::string const & problem) { m_bytes.fail(problem); });
     content(*object);
     holder = std::move(object);

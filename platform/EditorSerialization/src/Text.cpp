@@ -2,7 +2,6 @@
 #include <limits>
 
 #include <EditorSerialization/Bytes.h>
-#include <EditorSerialization/Error.h>
 
 namespace Serialize {
 
@@ -95,9 +94,9 @@ void ByteReader::read(QString & text)
     text = units;
 }
 
-void ByteReader::fail(std::string const & problem) const
+void ByteReader::fail(std::string const & problem, ArchiveError::exception_code code) const
 {
-    throw ArchiveError(ArchiveError::other_exception, problem + ", before byte " + std::to_string(m_offset));
+    throw ArchiveError(code, problem + ", before byte " + std::to_string(m_offset));
 }
 
 void ByteReader::failShort(std::size_t missing) const

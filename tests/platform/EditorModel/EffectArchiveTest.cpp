@@ -107,6 +107,8 @@ TEST(EffectArchiveJson, SaysWhatIsWrongAndWhere)
         {"{}\n x", "no JSON", "line 2, column 2"},
         {std::string("{}\0", 3), "no JSON", "byte 3"},
         {"{\"a\": \"\xFF\"}", "no JSON", "line 1"},
+        {u8"{\"class\": é}", "no JSON", "at /class"},
+        {"{\"a\": [1e999]}", "1e999", "line 1, column 8, at /a/0"},
         {std::string(100'000, '['), "nested more than 256 deep", ""},
         {"null", "the archive holds no effect", ""},
         {"7", "an object or null is expected", ""},
@@ -134,6 +136,7 @@ TEST(EffectArchiveJson, SaysWhatIsWrongAndWhere)
         } catch (ArchiveError const & error) {
             EXPECT_THAT(error.what(), HasSubstr(row.message));
             EXPECT_THAT(error.what(), HasSubstr(row.place));
+            EXPECT_NO_THROW(json(error.what()).dump()) << "no UTF-8";
         }
     }
     EXPECT_THROW(fromJson(R"({"$meta": {"ref": 5}})"), std::out_of_range);
@@ -191,7 +194,8 @@ TEST(EffectArchiveBinary, WhatIsCutOffIsAShortRead)
 TEST(EffectArchiveBinary, SaysWhatIsWrong)
 {
     std::string const bytes = toBinary(Sample::Effect());
-    EXPECT_THAT(binaryError(bytes + '\0'), HasSubstr("goes on after the effect"));
+    EXPECT_THAT(
+        binaryError(bytes + '\0'), HasSubstr("goes on after the effect, at byte " + std::to_string(bytes.size())));
     EXPECT_THAT(binaryError(bytes + bytes), HasSubstr("goes on after the effect"));
     EXPECT_THAT(binaryError("JSON" + bytes), HasSubstr("does not begin with EEAR"));
 
@@ -213,8 +217,9 @@ TEST(EffectArchiveBinary, NoChangedByteDoesMoreThanFail)
             changed[place] = static_cast<char>(changed[place] ^ change);
             try {
                 EXPECT_TRUE(fromBinary(changed));
-            } catch (std::exception const &) {
+            } catch (std::exception const & error) {
                 ++refused;
+                EXPECT_NO_THROW(json(error.what()).dump()) << "no UTF-8, byte " << place;
             }
         }
     }

@@ -322,6 +322,15 @@ TEST(BinaryArchive, ForgedNumbersAreRefused)
         HasSubstr("a boolean has the value 7"));
 }
 
+TEST(BinaryArchive, MessagesAreUtf8WhateverTheyQuote)
+{
+    // A byte that is no UTF-8, a line feed and a zero, which would end the text.
+    std::string const name("A\xFF\n\0Z", 5);
+    EXPECT_EQ(
+        pointerError(bytes(std::int16_t(0), std::uint64_t(name.size())) + name, archive_exception::unregistered_class),
+        u8"unregistered class - \"A\uFFFD\uFFFD\uFFFDZ\", before byte 21");
+}
+
 TEST(BinaryArchive, HugeLengthsCostNothing)
 {
     // A text, bytes and a list that claim 2^60: each ends where the stream does.

@@ -436,9 +436,80 @@ TEST(JsonArchive, ReferencesToNothingAreOutOfRange)
 TEST(JsonArchive, ReferencesThatFormACircleAreRefused)
 {
     json const circle{{"leaves", {numbered(1, reference(2)), numbered(2, reference(1))}}};
-    EXPECT_THAT(errorOf<Branch>(circle), HasSubstr("the references form a circle"));
+    EXPECT_EQ(errorOf<Branch>(circle), "the references form a circle, at /leaves/0");
+    // The reference that leads into a circle is no part of it.
+    json const behind{{"leaves", {json::object(), reference(1)}}, {"a", numbered(1, reference(2))},
+        {"b", {{"c", numbered(2, reference(1))}}}};
+    EXPECT_EQ(errorOf<Branch>(behind), "the references form a circle, at /leaves/1");
+    EXPECT_EQ(errorOf<Leaf>(numbered(1, reference(1))), "the references form a circle, at /");
     json const inside = numbered(1, {{"$meta", {{"class", "Host::Node"}}}, {"children", {reference(1)}}});
-    EXPECT_THAT(errorOf<Node>(inside), HasSubstr("deep"));
+    EXPECT_EQ(errorOf<Node>(inside), "references are nested more than 64 deep, at /children/0");
+}
+
+TEST(JsonArchive, AnErrorBehindAReferenceHasItsOwnPlace)
+{
+    // Slashes and tildes in keys are spelt out in a pointer.
+    json const leaf = numbered(4, {{"$meta", leafMeta}, {"number", "nine"}});
+    EXPECT_EQ(errorOf<Branch>({{"leaves", {reference(4)}}, {"a/b", {{"c~d", {1, leaf}}}}}),
+        "an integer is expected, found string, at /a~1b/c~0d/1/number");
+    // Two references on, by way of a number that is looked up before.
+    json const way{{"leaves", {reference(1)}}, {"x", numbered(1, reference(4))}, {"y", leaf}};
+    EXPECT_EQ(errorOf<Branch>(way), "an integer is expected, found string, at /y/number");
+    // Of two references in each other, the inner one counts.
+    json const branch = numbered(2, {{"$meta", {{"class", "Host::Branch"}}}, {"leaves", {reference(4)}}});
+    EXPECT_EQ(errorOf<Node>({{"children", {reference(2)}}, {"x", branch}, {"y", leaf}}),
+        "an integer is expected, found string, at /y/number");
+    json const children = json::array({numbered(4, {{"$meta", {{"class", "X"}}}}), reference(4)});
+    EXPECT_EQ(errorOf<Node>(
+                  {{"children", {nullptr, reference(4)}}, {"others", children}}, archive_exception::unregistered_class),
+        "unregistered class - \"X\", at /others/0");
+}
+
+TEST(JsonArchive, BrokenReferencesNameTheirPlace)
+{
+    auto const with = [](json const & number) { return json{{"$meta", {{"ref", number}}}}; };
+    EXPECT_EQ(errorOf<Leaf>(with("4")), "an integer is expected, found string, at /$meta/ref");
+    EXPECT_EQ(errorOf<Leaf>(with(nullptr)), "an integer is expected, found null, at /$meta/ref");
+    EXPECT_EQ(errorOf<Branch>({{"leaves", {json::object(), with(1.0)}}}),
+        "an integer is expected, found number, at /leaves/1/$meta/ref");
+    EXPECT_EQ(errorOf<Branch>({{"leaves", with(9223372036854775808U)}}),
+        "the number 9223372036854775808 is out of range, at /leaves/$meta/ref");
+    // The second one on the way.
+    json const way{{"leaves", {reference(1)}}, {"x", numbered(1, with(true))}};
+    EXPECT_EQ(errorOf<Branch>(way), "an integer is expected, found boolean, at /x/$meta/ref");
+}
+
+TEST(JsonArchive, NumbersOfObjectsAreWhole)
+{
+    auto const document = [](json const & number) {
+        json const leaf{{"$meta", {{"class", "Host::Leaf"}, {"id", number}}}, {"number", 9}};
+        return json{{"leaves", {reference(-1)}}, {"x", {leaf}}};
+    };
+    Branch branch;
+    load(document(-1), branch);
+    ASSERT_EQ(branch.leaves.size(), 1U);
+    EXPECT_EQ(branch.leaves[0].number, 9);
+    // In 64 bits these would be -1 and the lowest number.
+    EXPECT_EQ(errorOf<Branch>(document(18446744073709551615U)),
+        "the number 18446744073709551615 is out of range, at /x/0/$meta/id");
+    EXPECT_EQ(errorOf<Branch>(document(9223372036854775808U)),
+        "the number 9223372036854775808 is out of range, at /x/0/$meta/id");
+    // What is no whole number numbers nothing.
+    EXPECT_THROW(load(document("-1"), branch), std::out_of_range);
+    EXPECT_THROW(load(document(-1.0), branch), std::out_of_range);
+    EXPECT_THROW(load(document(std::numeric_limits<std::int64_t>::max()), branch), std::out_of_range);
+}
+
+TEST(JsonArchive, AnArchiveCanBeReadFromAfterAnError)
+{
+    json const document{{"leaves", {numbered(1, reference(1))}}, {"good", {{"number", 9}}}};
+    Serialize::Json::iarchive archive(document);
+    Branch branch;
+    Leaf leaf;
+    EXPECT_THROW(archive >> branch, archive_exception);
+    EXPECT_EQ(&archive.head(), &document);
+    archive >> Serialize::field("good", leaf);
+    EXPECT_EQ(leaf.number, 9);
 }
 
 TEST(JsonArchive, ReferencesDoNotMultiplyWithoutEnd)
@@ -456,25 +527,81 @@ TEST(JsonArchive, ReferencesDoNotMultiplyWithoutEnd)
 TEST(JsonArchive, TwoObjectsWithOneNumberAreRefused)
 {
     json const leaf = numbered(1, {{"$meta", leafMeta}});
-    EXPECT_THAT(errorOf<Branch>({{"leaves", {leaf, leaf, reference(1)}}}), HasSubstr("have the number 1"));
+    std::string const error = errorOf<Branch>({{"leaves", {leaf, json::object(), leaf, reference(1)}}});
+    EXPECT_THAT(error, testing::StartsWith("two objects of the document have the number 1, at /leaves/"));
+    EXPECT_THAT(error, HasSubstr("/leaves/0"));
+    EXPECT_THAT(error, HasSubstr("/leaves/2"));
+    json const outer = numbered(1, {{"$meta", {{"class", "Host::Node"}}}, {"children", {leaf, reference(1)}}});
+    EXPECT_THAT(errorOf<Node>(outer), HasSubstr("at /children/0 and at /"));
+}
+
+TEST(JsonArchive, MessagesAreUtf8WhateverTheyQuote)
+{
+    // From a document that a host built of bytes: a parsed one holds UTF-8 alone.
+    std::string const bytes("A\xFF\n\0Z", 5);
+    EXPECT_EQ(errorOf<Owner>({{"$meta", {{"class", bytes}}}}, archive_exception::unregistered_class),
+        u8"unregistered class - \"A\uFFFD\uFFFD\uFFFDZ\", at /");
+    EXPECT_EQ(errorOf<Leaf>({{"$meta", {{"class", bytes}}}}),
+        u8"an object of the class Host::Leaf is expected, found \"A\uFFFD\uFFFD\uFFFDZ\", at /");
+}
+
+std::string parseError(std::string const & text)
+{
+    try {
+        Serialize::Json::parse(text);
+    } catch (archive_exception const & error) {
+        return error.what();
+    }
+    return "nothing was thrown";
 }
 
 TEST(JsonText, ErrorsNameTheirPlace)
 {
-    auto const errorOf = [](std::string const & text) -> std::string {
-        try {
-            Serialize::Json::parse(text);
-        } catch (archive_exception const & error) {
-            return error.what();
-        }
-        return "nothing was thrown";
+    struct
+    {
+        std::string text;
+        char const * problem;
+        char const * place;
+    } const rows[] = {
+        {"{\"a\": 1,\n \"b\": }", ": parse error at line 2, column 7: ", ", at /b"},
+        {"", "parse error at line 1, column 1", ", at /"},
+        {"{} x", "parse error at line 1, column 4", ", at /"},
+        {std::string("{\n}\0{", 5), "byte 4 is zero, line 2, column 2", ""},
+        {"[{\"a\": {}, \"b\": [true, \"\xFF\"]}]", "parse error at line 1, column 25", ", at /0/b/1"},
+        {"{\"a\": [1], }", "parse error at line 1, column 12", ", at /a"},
+        {"[1, {", "parse error at line 1, column 6", ", at /1"},
+        {"1e999", "the number 1e999 is out of range, line 1, column 1", ", at /"},
+        {"{\"x\": [1, 2.5],\n \"a/~b\": [0, -1e999]}", "the number -1e999 is out of range, line 2, column 14",
+            ", at /a~1~0b/1"},
+        {"{\"x\": {\"y\": {\"deep\": 0}, \"z\": 1e999}}", "the number 1e999 is out of range, line 1, column 31",
+            ", at /x/z"},
     };
-    EXPECT_THAT(errorOf("{\"a\": 1,\n \"b\": }"), HasSubstr("line 2, column 7"));
-    EXPECT_THAT(errorOf(""), HasSubstr("this is no JSON"));
-    EXPECT_THAT(errorOf("{} x"), HasSubstr("this is no JSON"));
-    EXPECT_THAT(errorOf(std::string("{}\0{", 4)), HasSubstr("byte 3 is zero"));
-    EXPECT_THAT(errorOf("\"\xFF\""), HasSubstr("this is no JSON"));
-    EXPECT_THAT(errorOf("1e999"), HasSubstr("this is no JSON"));
+    for (auto const & row : rows) {
+        SCOPED_TRACE(row.text);
+        std::string const error = parseError(row.text);
+        EXPECT_THAT(error, testing::StartsWith("this is no JSON: "));
+        EXPECT_THAT(error, HasSubstr(row.problem));
+        EXPECT_THAT(error, testing::EndsWith(row.place));
+    }
+}
+
+TEST(JsonText, ErrorsAreUtf8)
+{
+    // The library quotes what it read up to the first wrong byte: half a character here.
+    for (std::string const & text : {std::string(u8"{\"class\": é}"), std::string("\xFF"), std::string("\"\xE2\x82\""),
+             std::string("{\"\xC0\x80\": 1}"), std::string("\xEF\xBB"), std::string("[1, \xF0\x9D\x84\x9E]")}) {
+        std::string const error = parseError(text);
+        EXPECT_NO_THROW(json(error).dump()) << testing::PrintToString(text);
+        EXPECT_THAT(error, HasSubstr(u8"\uFFFD")) << testing::PrintToString(text);
+    }
+}
+
+TEST(JsonText, ErrorsAreOfBoundedLength)
+{
+    std::string const error = parseError("{\"a\": \"" + std::string(1'000'000, 'x'));
+    EXPECT_THAT(error, testing::StartsWith("this is no JSON: "));
+    EXPECT_THAT(error, testing::EndsWith(", at /a"));
+    EXPECT_LT(error.size(), 3000U);
 }
 
 TEST(JsonText, DepthIsLimited)
@@ -483,12 +610,18 @@ TEST(JsonText, DepthIsLimited)
         return std::string(static_cast<std::size_t>(depth), '[') + std::string(static_cast<std::size_t>(depth), ']');
     };
     EXPECT_NO_THROW(Serialize::Json::parse(nested(256)));
-    EXPECT_THROW(Serialize::Json::parse(nested(257)), archive_exception);
-    EXPECT_THROW(Serialize::Json::parse(nested(100'000)), archive_exception);
+    EXPECT_THAT(parseError(nested(257)),
+        testing::StartsWith("the JSON text is nested more than 256 deep, line 1, column 257, at /0/0/0"));
+    EXPECT_THAT(parseError(nested(100'000)), HasSubstr("line 1, column 257"));
     std::string objects;
     for (int depth = 0; depth < 100'000; ++depth)
         objects += "{\"a\":";
-    EXPECT_THROW(Serialize::Json::parse(objects), archive_exception);
+    EXPECT_THAT(parseError(objects), HasSubstr("column 1281, at /a/a/a")); // behind 256 times five characters
+
+    // Brackets that are closed again or part of a text are no depth.
+    std::string const start = "{\"[[\\\"[\": \"]]\", \"a\": [[], {}],\n\"b\": ";
+    EXPECT_NO_THROW(Serialize::Json::parse(start + nested(255) + "}"));
+    EXPECT_THAT(parseError(start + nested(256) + "}"), HasSubstr("deep, line 2, column 261, at /b/0/0"));
 }
 
 TEST(JsonText, IsParsedAsTheLibraryDoes)

@@ -336,6 +336,14 @@ TEST(StreamDeserializer, AValueInAnOptionalOrAnArrayIsReplacedAsAWhole)
     EXPECT_EQ(news, 16 + 6 + 3 * 15 + 1);
 }
 
+TEST(StreamDeserializer, MessagesAreUtf8WhateverTheyQuote)
+{
+    EXPECT_STREQ(errorOf([] { Stream("P\x03\0\0\0\0\0\0\0\xe2\x82\0"s).object(); }).what(),
+        u8"unregistered class - \"\uFFFD\uFFFD\uFFFD\", before byte 18");
+    EXPECT_STREQ(errorOf([] { Stream("n\x02\0\0\0\0\0\0\0\x7f\xff"s).values().name("y"); }).what(),
+        u8"\"y\" is expected, found \"\uFFFD\uFFFD\", before byte 17");
+}
+
 TEST(StreamDeserializer, SaysWhatItExpected)
 {
     struct Row

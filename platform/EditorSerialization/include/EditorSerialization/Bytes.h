@@ -8,6 +8,7 @@
 #include <streambuf>
 #include <string>
 
+#include <EditorSerialization/Error.h>
 #include <EditorSerialization/Export.h>
 
 #include <QString>
@@ -74,7 +75,8 @@ public:
     /// Bytes read so far.
     std::uint64_t offset() const { return m_offset; }
     /// Throws an `ArchiveError` that says `problem` and where in the stream it is.
-    [[noreturn]] void fail(std::string const & problem) const;
+    [[noreturn]] void fail(
+        std::string const & problem, ArchiveError::exception_code code = ArchiveError::other_exception) const;
 
 private:
     [[noreturn]] void failShort(std::size_t missing) const;

@@ -11,17 +11,18 @@
 namespace Serialize {
 
 /// What is wrong with an archive, and where. It carries the framework's code, so that a caller that catches the
-/// framework's exception loses nothing, and a text of any length.
+/// framework's exception loses nothing.
 class EDITORSERIALIZATION_EXPORT ArchiveError : public boost::archive::archive_exception
 {
 public:
     /// @param errorCode  the framework's code
-    /// @param text       what is wrong and where
-    ArchiveError(exception_code errorCode, std::string text);
+    /// @param text       what is wrong and where. It may quote any bytes of the archive
+    ArchiveError(exception_code errorCode, std::string const & text);
     ArchiveError(ArchiveError const &) noexcept; ///< as exceptions are copied
     ~ArchiveError() noexcept override;
 
-    /// The text.
+    /// The text: one line of well-formed UTF-8 and of no more than a few thousand bytes, whatever it quotes. Bytes that
+    /// are no UTF-8 and control characters are replaced by U+FFFD, and a long text is shortened in its middle.
     char const * what() const noexcept override;
 
 private:

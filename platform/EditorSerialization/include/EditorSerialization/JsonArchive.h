@@ -34,7 +34,8 @@ inline constexpr char const * s_reference = "ref";    ///< number of the object 
 /// A text is parsed to this depth; objects within `maxObjectDepth` of each other never reach it.
 inline constexpr int maxDocumentDepth = 256;
 
-/// Parses a JSON text. Throws an `ArchiveError` that names the line and column, also for a text nested too deep.
+/// Parses a JSON text. Throws an `ArchiveError` that names line, column and JSON pointer, for a text that is nested too
+/// deep as well.
 EDITORSERIALIZATION_EXPORT nlohmann::json parse(std::string_view text);
 
 /// The number of the object that `value` refers to; nothing when it is no reference.
@@ -108,7 +109,6 @@ public:
     /// @}
 
 private:
-    // The framework's own records are classes; none of them reaches a document.
     /// A value that is built apart from the document, and moved into it when it is whole.
     class EDITORSERIALIZATION_EXPORT Draft
     {
@@ -141,6 +141,7 @@ private:
     }
     void forget(char const * key);
 
+    // The framework's own records are classes; none of them reaches a document.
     template <class T> void save([[maybe_unused]] T const & value)
     {
         if constexpr (!std::is_class_v<T>)
@@ -170,8 +171,8 @@ private:
     }
     void save_override(QString const & text);
     void save_override(std::string const & text);
-    template <class T> void save_override(std::unique_ptr<T> const & object) { saveObject(object.get()); }
     void save_override(std::nullptr_t) {} // null is what a value is until it is filled
+    template <class T> void save_override(std::unique_ptr<T> const & object) { saveObject(object.get()); }
     template <class T, std::size_t N> void save_override(std::array<T, N> const & values) { saveElements(values); }
     template <class T> void save_override(std::deque<T> const & elements) { saveElements(elements); }
 
@@ -204,9 +205,9 @@ private:
 /// Reads from a document, which must outlive the archive. Keys that are absent leave their fields alone, keys that
 /// nothing asks for are ignored.
 ///
-/// Throws `ArchiveError` with a text that says what is wrong and where ("at /Effect::VideoEffect/color"), code 2 for
-/// a class that is not registered; and `std::out_of_range` for a reference to an object that the document does not
-/// hold. The object being read keeps what was read so far.
+/// Throws `ArchiveError` with a text that says what is wrong and where, as a JSON pointer into the document ("at
+/// /Effect::VideoEffect/color"), code 2 for a class that is not registered; and `std::out_of_range` for a reference to
+/// an object that the document does not hold. The object being read keeps what was read so far.
 class EDITORSERIALIZATION_EXPORT iarchive : public boost::archive::detail::common_iarchive<iarchive>
 {
     using Framework = boost::archive::detail::common_iarchive<iarchive>;
@@ -334,11 +335,13 @@ private:
     nlohmann::json const * elementAt(std::size_t index) const;
     std::size_t arraySize() const;
     bool isNull() const;
-    void enter(Level level);
+    void enter(Level const & level);
     void leave() { m_stack.pop_back(); }
-    void follow(Level & level, std::int64_t id);
+    void followReferences();
+    std::optional<std::int64_t> referenceHere() const;
+    void follow(std::int64_t id);
     nlohmann::json const * className() const;
-    std::string where() const;
+    std::string pointer() const;
     [[noreturn]] void fail(std::string const & problem, boost::archive::archive_exception::exception_code code =
                                                             boost::archive::archive_exception::other_exception) const;
 
