@@ -1,32 +1,44 @@
 # The product: one shared library, made of object files that the tests of its
 # hidden classes can link as well.
 
-# Installed, below the include folder of the package.
+# Installed, below the include folder of the package, with the headers and the .def files of the exported families.
 set(EDITOREFFECTS_PUBLIC_HEADERS
   collection/Effects/ContentProvider.h
-  effects/Base.h
-  effects/CleanUp.h
-  effects/ColorCorrection.h
-  effects/Composition.h
-  effects/Dynamics.h
   effects/EffectClass.h
-  effects/Effects.h
-  effects/Equalizer.h
   effects/Export.h
-  effects/Geometry.h
-  effects/Holder.h
   effects/Identity.h
-  effects/Mask.h
-  effects/Modulation.h
-  effects/Shaders.h
+  effects/Parameter.h
+  effects/Rows.h
+  effects/Schema.h
   utils/EffectUtils.h
   utils/LutUtils.h
 )
 
-# A family is a source of each of three kinds, of its own name. Static initialisers run in this order: the exported
-# classes and their constants, then the hidden ones.
+# The one list of families: a family is its header, its .def file and its sources, all of its own name. Static
+# initialisers run in this order: the exported classes and their constants, then the hidden ones.
 set(exported_families Base ColorCorrection Geometry Composition Mask Shaders Equalizer Dynamics Modulation CleanUp Holder)
 set(hidden_families Mirroring Blur Distortion Artistic Retro ColorFilters Light Voice)
+
+# What C++ needs of the list, below build/generated/effects: .def files and headers that include those of the families,
+# and Families.def with a line for each family.
+set(EDITOREFFECTS_GENERATED "${PROJECT_BINARY_DIR}/generated")
+set(families)
+foreach(group IN ITEMS exported hidden)
+  set(${group}_headers)
+  set(${group}_rows)
+  string(TOUPPER ${group} macro)
+  foreach(family IN LISTS ${group}_families)
+    string(APPEND ${group}_headers "#include <effects/${family}.h>\n")
+    string(APPEND ${group}_rows "#include <effects/${family}.def>\n")
+    string(APPEND families "${macro}_FAMILY(${family})\n")
+    if(EXISTS "${PROJECT_SOURCE_DIR}/collection/Effects/conversions/${family}.cpp")
+      string(APPEND families "CONVERTED_FAMILY(${family})\n")
+    endif()
+  endforeach()
+endforeach()
+foreach(file IN ITEMS Effects.h ExportedFamilies.def Families.def HiddenFamilies.def HiddenFamilies.h)
+  configure_file(cmake/families/${file}.in "${EDITOREFFECTS_GENERATED}/effects/${file}" @ONLY)
+endforeach()
 
 # family_sources(VARIABLE PATTERN FAMILY...): the files of that pattern that the families have, "@" being a family.
 function(family_sources variable pattern)
@@ -55,14 +67,17 @@ target_sources(EditorEffectsObjects PRIVATE effects/Identity.cpp)
 add_families(${hidden_families})
 target_sources(EditorEffectsObjects PRIVATE
   effects/PrivateIdentity.cpp
+  serialization/Schema.cpp
   collection/Effects/ContentProvider.cpp
+  collection/Effects/EffectSettings.cpp
   collection/Effects/ImageHolder.cpp
   collection/Effects/SettingsFactory.cpp
   utils/CollectionNames.cpp
   utils/EffectUtils.cpp
   utils/LutUtils.cpp
 )
-target_include_directories(EditorEffectsObjects PUBLIC "$<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>")
+target_include_directories(EditorEffectsObjects PUBLIC
+  "$<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>" "$<BUILD_INTERFACE:${EDITOREFFECTS_GENERATED}>")
 target_link_libraries(EditorEffectsObjects
   PUBLIC
     Editor::EditorModel Editor::EditorSerialization Editor::EditorUtil Editor::Settings Editor::MTime Qt5::Core Qt5::Gui
@@ -83,6 +98,7 @@ add_library(Editor::Effects ALIAS EditorEffects)
 target_compile_features(EditorEffects PUBLIC cxx_std_17)
 target_include_directories(EditorEffects PUBLIC
   "$<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>"
+  "$<BUILD_INTERFACE:${EDITOREFFECTS_GENERATED}>"
   "$<INSTALL_INTERFACE:${EDITOR_INCLUDEDIR}>")
 target_link_libraries(EditorEffects
   PUBLIC

@@ -15,6 +15,12 @@ struct OilPaint : VideoEffect
     EFFECT_FILTER_CLASS(OilPaint)
 
     std::int32_t radius = 5; ///< of the brush
+
+    static constexpr auto describe()
+    {
+        return description(
+            "Paints the picture with a brush.", readsIntensity(), parameter("radius", &OilPaint::radius));
+    }
 };
 
 /// Few flat colours. All that the engine is told is the preset's.
@@ -25,6 +31,11 @@ struct PopArt : VideoEffect
     enum class Preset : std::int32_t; ///< 0 to 3
 
     Preset preset{};
+
+    static constexpr auto describe()
+    {
+        return description("Few flat colours.", readsIntensity(), parameter("preset", &PopArt::preset));
+    }
 };
 
 /// Reduces the number of colours.
@@ -33,6 +44,12 @@ struct Posterize : VideoEffect
     EFFECT_FILTER_CLASS(Posterize)
 
     std::int32_t colorsNumber = 5;
+
+    static constexpr auto describe()
+    {
+        return description(
+            "Reduces the number of colours.", readsIntensity(), parameter("colorsNumber", &Posterize::colorsNumber));
+    }
 };
 
 /// Leaves only the edges.
@@ -44,6 +61,12 @@ struct FindEdges : VideoEffect
 
     Method type{}; ///< archived last; the operation `type()` is reached through a base
     double sensibility = 1.0;
+
+    static constexpr auto describe()
+    {
+        return description("Leaves only the edges.", readsIntensity(),
+            parameter("sensibility", &FindEdges::sensibility), parameter("type", &FindEdges::type));
+    }
 };
 
 /// Prints the picture in dots.
@@ -55,6 +78,13 @@ struct HalfTone : VideoEffect
     std::uint32_t dtclr = 0; ///< dots, `0xAARRGGBB`; transparent, and so unseen, until a colour is chosen
     double scale = 0.001;    ///< of the dots
     std::int32_t angle = 30; ///< of the screen, in degrees
+
+    static constexpr auto describe()
+    {
+        return description("Prints the picture in dots.", readsIntensity(), parameter("bkgnd", &HalfTone::bkgnd),
+            parameter("dtclr", &HalfTone::dtclr), parameter("scale", &HalfTone::scale),
+            parameter("angle", &HalfTone::angle));
+    }
 };
 
 /// Splits the picture into tiles.
@@ -67,6 +97,12 @@ struct Mosaic : VideoEffect
     Shape type{};                ///< hides the operation `type()`
     std::int32_t amountVer = 10; ///< tiles down
     std::int32_t amountHor = 10; ///< tiles across
+
+    static constexpr auto describe()
+    {
+        return description("Splits the picture into tiles.", readsIntensity(), parameter("type", &Mosaic::type),
+            parameter("amountVer", &Mosaic::amountVer), parameter("amountHor", &Mosaic::amountHor));
+    }
 };
 
 /// View through patterned glass.
@@ -78,6 +114,13 @@ struct GlassMosaic : VideoEffect
     double curve = 0.1;
     double repeatsh = 0.25; ///< across
     double repeatsv = 0.25; ///< down
+
+    static constexpr auto describe()
+    {
+        return description("View through patterned glass.", readsIntensity(), parameter("angle", &GlassMosaic::angle),
+            parameter("curve", &GlassMosaic::curve), parameter("repeatsh", &GlassMosaic::repeatsh),
+            parameter("repeatsv", &GlassMosaic::repeatsv));
+    }
 };
 
 /// Grows the dark parts or the light ones.
@@ -88,6 +131,12 @@ struct Erosion : VideoEffect
     enum class Direction : std::int32_t; ///< 0 and 1; another one leaves the engine to its defaults
 
     Direction type{}; ///< hides the operation `type()`
+
+    static constexpr auto describe()
+    {
+        return description(
+            "Grows the dark parts or the light ones.", readsIntensity(), parameter("type", &Erosion::type));
+    }
 };
 
 /// Scatters the pixels.
@@ -97,6 +146,12 @@ struct Diffuse : VideoEffect
 
     double level = 0.05;
     double prob = 0.25; ///< probability
+
+    static constexpr auto describe()
+    {
+        return description("Scatters the pixels.", readsIntensity(), parameter("level", &Diffuse::level),
+            parameter("prob", &Diffuse::prob));
+    }
 };
 
 /// Lays stripes over the picture.
@@ -106,6 +161,12 @@ struct Stripes : VideoEffect
 
     std::int32_t count = 32;
     double deep = 0.999; ///< depth
+
+    static constexpr auto describe()
+    {
+        return description("Lays stripes over the picture.", readsIntensity(), parameter("count", &Stripes::count),
+            parameter("deep", &Stripes::deep));
+    }
 };
 
 /// Adds noise; the intensity is its level.
@@ -116,6 +177,12 @@ struct AddNoize : VideoEffect
     enum class Kind : std::int32_t; ///< 0 and 1; another one leaves the engine to its default
 
     Kind type{}; ///< hides the operation `type()`
+
+    static constexpr auto describe()
+    {
+        return description(
+            "Adds noise; the intensity is its level.", readsIntensity(), parameter("type", &AddNoize::type));
+    }
 };
 
 } // namespace Effect

@@ -22,6 +22,13 @@ struct EFFECTS_API EffectDescriptor : Object
 
     Type type() const override;
     Impl impl() const override;
+
+    static constexpr auto describe()
+    {
+        return description(
+            "An effect that the render engine does not execute itself: what it asks for is done elsewhere.",
+            parameter("type", &EffectDescriptor::descriptorType));
+    }
 };
 
 /// An effect on pictures.
@@ -34,6 +41,8 @@ struct EFFECTS_API VideoEffect : Object
 
     Type type() const override;
     Impl impl() const override;
+
+    static constexpr auto describe() { return description("An effect on pictures."); }
 
 private:
     VideoEffect(); // for the archives: no effect is without an identifier
@@ -50,6 +59,8 @@ struct EFFECTS_API AudioFilter : Object
     Type type() const override;
     Impl impl() const override;
 
+    static constexpr auto describe() { return description("An audio effect that the engine runs as a filter."); }
+
 private:
     AudioFilter(); // for the archives
 };
@@ -64,6 +75,8 @@ struct EFFECTS_API AudioEffect : Object
 
     Type type() const override;
     Impl impl() const override;
+
+    static constexpr auto describe() { return description("An audio effect that the engine runs as an effect."); }
 
 private:
     AudioEffect(); // for the archives

@@ -12,6 +12,8 @@ namespace Effect {
 struct Blur : VideoEffect
 {
     EFFECT_FILTER_CLASS(Blur)
+
+    static constexpr auto describe() { return description("Softens the picture evenly.", readsIntensity()); }
 };
 
 /// Softens the picture, points of light taking the shape of a mask.
@@ -34,12 +36,20 @@ struct BokehBlur : VideoEffect
     };
 
     Preset preset = Preset::Bokeh;
+
+    static constexpr auto describe()
+    {
+        return description("Softens the picture, points of light taking the shape of a mask.", readsIntensity(),
+            parameter("preset", &BokehBlur::preset));
+    }
 };
 
 /// Blurs what moves.
 struct MotionBlur : VideoEffect
 {
     EFFECT_FILTER_CLASS(MotionBlur)
+
+    static constexpr auto describe() { return description("Blurs what moves.", readsIntensity()); }
 };
 
 /// Keeps a band of the picture sharp and softens what lies above and below. Each edge of the band is a line, given by
@@ -55,12 +65,22 @@ struct TiltShift : VideoEffect
     double b2 = 1;
     double c2 = 0.9;
     double smns = 0.2; ///< smoothness of the edges
+
+    static constexpr auto describe()
+    {
+        return description("Keeps a band of the picture sharp and softens what lies above and below.", readsIntensity(),
+            parameter("a1", &TiltShift::a1), parameter("b1", &TiltShift::b1), parameter("c1", &TiltShift::c1),
+            parameter("a2", &TiltShift::a2), parameter("b2", &TiltShift::b2), parameter("c2", &TiltShift::c2),
+            parameter("smns", &TiltShift::smns));
+    }
 };
 
 /// Sharpens the edges.
 struct Sharpen : VideoEffect
 {
     EFFECT_FILTER_CLASS(Sharpen)
+
+    static constexpr auto describe() { return description("Sharpens the edges.", readsIntensity()); }
 };
 
 } // namespace Effect

@@ -4,9 +4,11 @@
 
 namespace Effect {
 
-EFFECT_CONSTRUCTOR(
-    AudioNoiseSuppress, AudioFilter, Id::NoiseSuppress, Group::GroupAudioNoiseReduction, Tags::tagNoizeSupress)
-EFFECT_CONSTRUCTOR(AudioMonoChannel, AudioFilter, Id::AudioMonoChannel, Id::AudioMonoChannel, Tags::tagAudioMonoChannel)
+AudioNoiseSuppress::AudioNoiseSuppress()
+    : AudioFilter(Id::NoiseSuppress, Group::GroupAudioNoiseReduction)
+{
+    tag = Tags::tagNoizeSupress;
+}
 
 AudioAiDenoise::AudioAiDenoise()
     : EffectDescriptor(Id::AiDenoise, Group::GroupAudioNoiseReduction, Type::Audio)
@@ -26,7 +28,10 @@ AudioNormalize::AudioNormalize()
     tag = Tags::tagAudioNormalize;
 }
 
-EFFECT_DEFAULT_TAG(AudioNormalize, Tags::tagAudioNormalize)
+QString AudioNormalize::defaultTag() const
+{
+    return Tags::tagAudioNormalize;
+}
 
 BackgroundRemove::BackgroundRemove()
     : EffectDescriptor(Id::BackgroundRemove, Id::BackgroundRemove, Type::Video)

@@ -15,6 +15,11 @@ struct EFFECTS_API AudioNoiseSuppress : AudioFilter
     AudioNoiseSuppress();
 
     std::int32_t levelPercent = 50; ///< strength; not clamped
+
+    static constexpr auto describe()
+    {
+        return description("Takes noise away.", parameter("levelPercent", &AudioNoiseSuppress::levelPercent));
+    }
 };
 
 /// Mixes the channels down to one.
@@ -22,6 +27,8 @@ struct EFFECTS_API AudioMonoChannel : AudioFilter
 {
     EFFECT_CLASS(AudioMonoChannel)
     AudioMonoChannel();
+
+    static constexpr auto describe() { return description("Mixes the channels down to one."); }
 };
 
 /// Takes noise away with a trained model.
@@ -34,6 +41,12 @@ struct EFFECTS_API AudioAiDenoise : EffectDescriptor
 
     /// The model's path: another model gives another result.
     QString processingSettingsId() const override;
+
+    static constexpr auto describe()
+    {
+        return description(
+            "Takes noise away with a trained model.", parameter("aiModelPath", &AudioAiDenoise::aiModelPath));
+    }
 };
 
 /// Brings the sound to a common loudness.
@@ -43,6 +56,8 @@ struct EFFECTS_API AudioNormalize : EffectDescriptor
     AudioNormalize();
 
     QString defaultTag() const override;
+
+    static constexpr auto describe() { return description("Brings the sound to a common loudness."); }
 };
 
 /// Cuts the background of a picture out with a trained model.
@@ -56,6 +71,13 @@ struct EFFECTS_API BackgroundRemove : EffectDescriptor
 
     /// The model's path and the frame size, joined by a colon.
     QString processingSettingsId() const override;
+
+    static constexpr auto describe()
+    {
+        return description("Cuts the background of a picture out with a trained model.",
+            parameter("downscalingFrameSize", &BackgroundRemove::downscalingFrameSize),
+            parameter("aiModelPath", &BackgroundRemove::aiModelPath));
+    }
 };
 
 } // namespace Effect

@@ -5,13 +5,10 @@
 
 namespace Effect {
 
-EFFECT_CONSTRUCTOR(AutoContrast, VideoEffect, Id::AutoContrast, Id::AutoContrast, Tags::tagAutoContrast)
-EFFECT_CONSTRUCTOR(AutoSaturation, VideoEffect, Id::AutoSaturation, Id::AutoSaturation, Tags::tagAutoSaturation)
-EFFECT_CONSTRUCTOR(WhiteBalance, VideoEffect, Id::WhiteBalance, Id::WhiteBalance, Tags::tagWhiteBalance)
-EFFECT_CONSTRUCTOR(MagicEnhance, VideoEffect, Id::MagicEnhance, Id::MagicEnhance, Tags::tagMagicEnhance)
-EFFECT_CONSTRUCTOR(ManualEnhance, VideoEffect, Id::ManualEnhance, Id::ManualEnhance, Tags::tagManualEnhance)
-
-EFFECT_DEFAULT_TAG(ManualEnhance, Tags::tagManualEnhance)
+QString ManualEnhance::defaultTag() const
+{
+    return Tags::tagManualEnhance;
+}
 
 EFFECT_SETTER(ManualEnhance, setGamma, double, gamma)
 EFFECT_SETTER(ManualEnhance, setHighlights, double, highlights)

@@ -13,6 +13,8 @@ struct EFFECTS_API AutoContrast : VideoEffect
 {
     EFFECT_CLASS(AutoContrast)
     AutoContrast();
+
+    static constexpr auto describe() { return description("Stretches the contrast to the full range."); }
 };
 
 /// Raises the saturation of a pale picture.
@@ -20,6 +22,8 @@ struct EFFECTS_API AutoSaturation : VideoEffect
 {
     EFFECT_CLASS(AutoSaturation)
     AutoSaturation();
+
+    static constexpr auto describe() { return description("Raises the saturation of a pale picture."); }
 };
 
 /// Makes one colour of the picture neutral.
@@ -29,6 +33,11 @@ struct EFFECTS_API WhiteBalance : VideoEffect
     WhiteBalance();
 
     std::uint32_t color = 0xFF000000; ///< `0xAARRGGBB`; the alpha plays no part
+
+    static constexpr auto describe()
+    {
+        return description("Makes one colour of the picture neutral.", parameter("color", &WhiteBalance::color));
+    }
 };
 
 /// Corrects brightness, contrast and colours in one step.
@@ -36,6 +45,8 @@ struct EFFECTS_API MagicEnhance : VideoEffect
 {
     EFFECT_CLASS(MagicEnhance)
     MagicEnhance();
+
+    static constexpr auto describe() { return description("Corrects brightness, contrast and colours in one step."); }
 };
 
 /// The manual colour panel: sliders from -1 to 1, of which 0 changes nothing. Values beyond are passed on.
@@ -70,6 +81,16 @@ struct EFFECTS_API ManualEnhance : VideoEffect
     bool operator!=(ManualEnhance const & other) const { return !(*this == other); }
 
     QString defaultTag() const override;
+
+    static constexpr auto describe()
+    {
+        return description("The manual colour panel: sliders from -1 to 1, of which 0 changes nothing.",
+            parameter("gamma", &ManualEnhance::gamma), parameter("highlights", &ManualEnhance::highlights),
+            parameter("shadows", &ManualEnhance::shadows), parameter("brightness", &ManualEnhance::brightness),
+            parameter("contrast", &ManualEnhance::contrast), parameter("saturation", &ManualEnhance::saturation),
+            parameter("hue", &ManualEnhance::hue), parameter("temperature", &ManualEnhance::temperature),
+            parameter("tint", &ManualEnhance::tint));
+    }
 };
 
 } // namespace Effect

@@ -4,13 +4,27 @@
 
 namespace Effect {
 
-EFFECT_CONSTRUCTOR(PictureInPicture, VideoEffect, Id::PictureInPicture, Group::GroupPip, Tags::tagPIP)
-EFFECT_CONSTRUCTOR(SideBySide, VideoEffect, Id::SideBySide, Group::GroupPip, Tags::tagSideBySide)
-EFFECT_CONSTRUCTOR(Opacity, VideoEffect, Id::Opacity, Id::Opacity, Tags::tagOpacity)
-EFFECT_CONSTRUCTOR(ChromaKey, VideoEffect, Id::ChromaKey, Id::ChromaKey, Tags::tagChromaKey)
+PictureInPicture::PictureInPicture()
+    : VideoEffect(Id::PictureInPicture, Group::GroupPip)
+{
+    tag = Tags::tagPIP;
+}
 
-EFFECT_DEFAULT_TAG(PictureInPicture, Tags::tagPIP)
-EFFECT_DEFAULT_TAG(SideBySide, Tags::tagSideBySide)
+SideBySide::SideBySide()
+    : VideoEffect(Id::SideBySide, Group::GroupPip)
+{
+    tag = Tags::tagSideBySide;
+}
+
+QString PictureInPicture::defaultTag() const
+{
+    return Tags::tagPIP;
+}
+
+QString SideBySide::defaultTag() const
+{
+    return Tags::tagSideBySide;
+}
 
 EFFECT_SETTER(PictureInPicture, setTransform, Types::Transform const &, transform)
 EFFECT_SETTER(SideBySide, setTransformSrc, Types::Transform const &, transformSrc)

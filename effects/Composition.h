@@ -20,6 +20,12 @@ struct EFFECTS_API PictureInPicture : VideoEffect
     PictureInPicture * setTransform(Types::Transform const & value);
 
     QString defaultTag() const override;
+
+    static constexpr auto describe()
+    {
+        return description(
+            "A picture that is placed within another.", parameter("transform", &PictureInPicture::transform));
+    }
 };
 
 /// A part of the picture, in a part of the frame: two such share the frame.
@@ -37,6 +43,12 @@ struct EFFECTS_API SideBySide : VideoEffect
     SideBySide * setTransformDst(Types::Transform const & value);
 
     QString defaultTag() const override;
+
+    static constexpr auto describe()
+    {
+        return description("A part of the picture, in a part of the frame: two such share the frame.",
+            parameter("transformSrc", &SideBySide::transformSrc), parameter("transformDst", &SideBySide::transformDst));
+    }
 };
 
 /// Makes the whole picture transparent.
@@ -48,6 +60,11 @@ struct EFFECTS_API Opacity : VideoEffect
     double opacity = 1.0; ///< from 0, which is not to be seen, to 1; values beyond are passed on
 
     Opacity * setOpacity(double value);
+
+    static constexpr auto describe()
+    {
+        return description("Makes the whole picture transparent.", parameter("opacity", &Opacity::opacity));
+    }
 };
 
 /// Makes the parts of one colour transparent.
@@ -61,6 +78,13 @@ struct EFFECTS_API ChromaKey : VideoEffect
     int noiseLevel = 0;               ///< of 256
     int harshness = 1;                ///< percent
     int transparency = 10;            ///< percent
+
+    static constexpr auto describe()
+    {
+        return description("Makes the parts of one colour transparent.", parameter("color", &ChromaKey::color),
+            parameter("hueTolerance", &ChromaKey::hueTolerance), parameter("noiseLevel", &ChromaKey::noiseLevel),
+            parameter("harshness", &ChromaKey::harshness), parameter("transparency", &ChromaKey::transparency));
+    }
 };
 
 /// What the blending effects have in common. Its fields are archived by the classes that derive from it.
@@ -87,6 +111,11 @@ struct EFFECTS_API Overlay : ColorBlendingBase
     Overlay * setResourceID(Resource::ID const & value);
 
     bool hasIntensity() const override;
+
+    static constexpr auto describe()
+    {
+        return description("A picture from the stock, blended over the clip.", parameter("mode", &Overlay::mode));
+    }
 };
 
 /// A clip that is blended over the one below.
@@ -97,6 +126,11 @@ struct EFFECTS_API ColorBlending : ColorBlendingBase
 
     bool hasIntensity() const override; ///< false, although the engine is told the intensity
     bool isTwoInput() const override;
+
+    static constexpr auto describe()
+    {
+        return description("A clip that is blended over the one below.", parameter("mode", &ColorBlending::mode));
+    }
 };
 
 /// Takes the alpha of the picture from a second input. Its tag is empty.
@@ -106,6 +140,8 @@ struct EFFECTS_API AlphaInserter : VideoEffect
     AlphaInserter();
 
     bool isTwoInput() const override;
+
+    static constexpr auto describe() { return description("Takes the alpha of the picture from a second input."); }
 };
 
 } // namespace Effect

@@ -17,6 +17,13 @@ struct Twirl : VideoEffect
     double speedRotate = 0.1;
     double startTwirl = 0;
     double speedTwirl = 0.2;
+
+    static constexpr auto describe()
+    {
+        return description("Turns the picture around its middle, the middle further than the rim.", readsIntensity(),
+            parameter("startRotate", &Twirl::startRotate), parameter("speedRotate", &Twirl::speedRotate),
+            parameter("startTwirl", &Twirl::startTwirl), parameter("speedTwirl", &Twirl::speedTwirl));
+    }
 };
 
 /// Turning echoes of the picture.
@@ -26,6 +33,12 @@ struct Vertigo : VideoEffect
 
     double scale = 0.07;
     double speed = 0.05;
+
+    static constexpr auto describe()
+    {
+        return description("Turning echoes of the picture.", readsIntensity(), parameter("scale", &Vertigo::scale),
+            parameter("speed", &Vertigo::speed));
+    }
 };
 
 /// View through a fish-eye lens.
@@ -34,6 +47,12 @@ struct FishEye : VideoEffect
     EFFECT_FILTER_CLASS(FishEye)
 
     double deviation = -0.04;
+
+    static constexpr auto describe()
+    {
+        return description(
+            "View through a fish-eye lens.", readsIntensity(), parameter("deviation", &FishEye::deviation));
+    }
 };
 
 /// Barrel or pincushion distortion.
@@ -44,6 +63,13 @@ struct LensDistortion : VideoEffect
     double zoom = 0.4;
     double distortion = -0.2;
     std::int32_t memberCount = 1; ///< terms of the distortion's polynomial
+
+    static constexpr auto describe()
+    {
+        return description("Barrel or pincushion distortion.", readsIntensity(),
+            parameter("zoom", &LensDistortion::zoom), parameter("distortion", &LensDistortion::distortion),
+            parameter("memberCount", &LensDistortion::memberCount));
+    }
 };
 
 /// The camera in an unsteady hand; at rest by default.
@@ -56,12 +82,22 @@ struct CameraShake : VideoEffect
     double rotate = 0;
     double frequency = 0;
     double persistence = 0;
+
+    static constexpr auto describe()
+    {
+        return description("The camera in an unsteady hand; at rest by default.", readsIntensity(),
+            parameter("shuft_x", &CameraShake::shuft_x), parameter("shuft_y", &CameraShake::shuft_y),
+            parameter("rotate", &CameraShake::rotate), parameter("frequency", &CameraShake::frequency),
+            parameter("persistence", &CameraShake::persistence));
+    }
 };
 
 /// Splits the colours towards the rim.
 struct ChromaticAberration : VideoEffect
 {
     EFFECT_FILTER_CLASS(ChromaticAberration)
+
+    static constexpr auto describe() { return description("Splits the colours towards the rim.", readsIntensity()); }
 };
 
 } // namespace Effect

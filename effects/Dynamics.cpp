@@ -4,28 +4,22 @@
 
 namespace Effect {
 
-AudioDynamics::AudioDynamics(QString const & effectId, double kneeWidth)
-    : AudioEffect(effectId, effectId)
-    , knee(kneeWidth)
-{}
-
 // The two knees differ from the sixth place on, and saved effects rely on each as it is.
 
 AudioNoiseGate::AudioNoiseGate()
-    : AudioDynamics(Id::NoiseGate, 2.828427125)
+    : AudioEffect(Id::NoiseGate, Id::NoiseGate)
 {
     tag = Tags::tagAudioNoiseGate;
     intensity = 0.94;
+    knee = 2.828427125;
 }
 
 AudioCompressor::AudioCompressor()
-    : AudioDynamics(Id::Compressor, 2.82843)
+    : AudioEffect(Id::Compressor, Id::Compressor)
 {
     tag = Tags::tagAudioCompressor;
+    knee = 2.82843;
 }
-
-EFFECT_FILTER_OVERRIDES(AudioNoiseGate, Tags::tagAudioNoiseGate)
-EFFECT_FILTER_OVERRIDES(AudioCompressor, Tags::tagAudioCompressor)
 
 double AudioNoiseGate::range() const
 {

@@ -9,8 +9,8 @@
 
 namespace Effect {
 
-/// What the two dynamics processors have in common. It stands in no archive: each archives the fields as its own.
-struct EFFECTS_API AudioDynamics : AudioEffect
+/// The fields that both dynamics processors have. Each archives them as its own.
+struct AudioDynamics
 {
     /// The number of a level detector, 0 or 1. Others count as 0.
     enum class Detection : std::int32_t
@@ -31,13 +31,19 @@ struct EFFECTS_API AudioDynamics : AudioEffect
     Decibel gainOut = 0.0_dB;                        ///< make-up gain
     double knee;                                     ///< width of the knee, as a ratio
 
-protected:
-    /// The identifier, which is the group as well.
-    AudioDynamics(QString const & effectId, double kneeWidth);
+    /// The description of a processor with these fields.
+    static constexpr auto describe(char const * text)
+    {
+        return description(text, readsIntensity(), parameter("detection", &AudioDynamics::detection),
+            parameter("link", &AudioDynamics::link), parameter("gainIn", &AudioDynamics::gainIn),
+            parameter("threshold", &AudioDynamics::threshold), parameter("ratio", &AudioDynamics::ratio),
+            parameter("attack", &AudioDynamics::attack), parameter("release", &AudioDynamics::release),
+            parameter("gainOut", &AudioDynamics::gainOut), parameter("knee", &AudioDynamics::knee));
+    }
 };
 
 /// Silences what is below the threshold.
-struct EFFECTS_API AudioNoiseGate : AudioDynamics
+struct EFFECTS_API AudioNoiseGate : AudioEffect, AudioDynamics
 {
     EFFECT_FILTER_CLASS(AudioNoiseGate)
 
@@ -45,12 +51,16 @@ struct EFFECTS_API AudioNoiseGate : AudioDynamics
     /// as `Object::range`.
     double range() const;
     void setRange(double value); ///< sets the intensity to 1 - value
+
+    static constexpr auto describe() { return AudioDynamics::describe("Silences what is below the threshold."); }
 };
 
 /// Turns down what is above the threshold.
-struct EFFECTS_API AudioCompressor : AudioDynamics
+struct EFFECTS_API AudioCompressor : AudioEffect, AudioDynamics
 {
     EFFECT_FILTER_CLASS(AudioCompressor)
+
+    static constexpr auto describe() { return AudioDynamics::describe("Turns down what is above the threshold."); }
 };
 
 } // namespace Effect

@@ -52,8 +52,6 @@ bool alike(AudioEqualizer::BandEq const & a, AudioEqualizer::BandEq const & b)
 
 } // namespace
 
-EFFECT_CONSTRUCTOR(AudioEqualizer, AudioFilter, Id::AudioEqualizer, Id::AudioEqualizer, Tags::tagAudioEqualizer)
-
 AudioEqualizer::BandEq::BandEq() = default;
 
 AudioEqualizer::BandEq::BandEq(std::int32_t frequency, double level)

@@ -32,6 +32,12 @@ struct EFFECTS_API AudioEqualizer : AudioFilter
 
         std::int32_t centralFrequency = 0; ///< in hertz
         double gain = 0;                   ///< in decibels
+
+        static constexpr auto describe()
+        {
+            return description("One band.", parameter("centralFrequency", &BandEq::centralFrequency),
+                parameter("gain", &BandEq::gain));
+        }
     };
 
     Preset preset{1};                      ///< that the bands came from; the engine looks at the bands alone
@@ -46,6 +52,13 @@ struct EFFECTS_API AudioEqualizer : AudioFilter
     /// sound alike are equal.
     bool operator==(AudioEqualizer const & other) const;
     bool operator!=(AudioEqualizer const & other) const { return !(*this == other); }
+
+    static constexpr auto describe()
+    {
+        return description("Raises and lowers bands of the sound, each on its own.",
+            parameter("multiband", &AudioEqualizer::multiband), parameter("preset", &AudioEqualizer::preset),
+            parameter("presetName", &AudioEqualizer::presetName));
+    }
 };
 
 } // namespace Effect

@@ -16,6 +16,11 @@ struct EFFECTS_API Crop : VideoEffect
     Types::Transform transform; ///< places the picture in the frame, which cuts off what lies outside
 
     Crop * setTransform(Types::Transform const & value);
+
+    static constexpr auto describe()
+    {
+        return description("Shows a part of the picture.", parameter("transform", &Crop::transform));
+    }
 };
 
 /// Turns the picture around its middle.
@@ -27,6 +32,11 @@ struct EFFECTS_API Transpose : VideoEffect
     int angle = 0; ///< degrees, any integer
 
     Transpose * setAngle(int value);
+
+    static constexpr auto describe()
+    {
+        return description("Turns the picture around its middle.", parameter("angle", &Transpose::angle));
+    }
 };
 
 /// Fills the frame beside a video that was shot upright.
@@ -34,6 +44,8 @@ struct EFFECTS_API FixVertVideo : VideoEffect
 {
     EFFECT_CLASS(FixVertVideo)
     FixVertVideo();
+
+    static constexpr auto describe() { return description("Fills the frame beside a video that was shot upright."); }
 };
 
 } // namespace Effect

@@ -24,6 +24,9 @@ AudioEnhance::AudioEnhance()
     tag = Tags::tagAudioEnhance;
 }
 
-EFFECT_DEFAULT_TAG(AudioEnhance, Tags::tagAudioEnhance)
+QString AudioEnhance::defaultTag() const
+{
+    return Tags::tagAudioEnhance;
+}
 
 } // namespace Effect

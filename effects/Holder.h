@@ -26,6 +26,12 @@ struct EFFECTS_API EffectsHolder : EffectDescriptor
 
     /// Appends the effect, or an empty slot for null.
     EffectsHolder * addEffect(std::unique_ptr<Object> effect);
+
+    static constexpr auto describe()
+    {
+        return description("Several effects that are stored, catalogued and archived as one.",
+            parameter("effects", &EffectsHolder::effects));
+    }
 };
 
 /// Enhances a voice by several effects at once. The stock's ones come filled from the catalogue.
@@ -35,6 +41,8 @@ struct EFFECTS_API AudioEnhance : EffectsHolder
     AudioEnhance();
 
     QString defaultTag() const override;
+
+    static constexpr auto describe() { return description("Enhances a voice by several effects at once."); }
 };
 
 } // namespace Effect

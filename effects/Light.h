@@ -37,6 +37,12 @@ struct FlyingObjects : VideoEffect
     };
 
     Preset preset = Preset::Leaf;
+
+    static constexpr auto describe()
+    {
+        return description("Lets copies of an image fly through the picture.", readsIntensity(),
+            parameter("preset", &FlyingObjects::preset));
+    }
 };
 
 /// Reflections in the lens.
@@ -50,6 +56,11 @@ struct LensFlare : VideoEffect
     };
 
     Preset Presets = {}; ///< named as in the archives
+
+    static constexpr auto describe()
+    {
+        return description("Reflections in the lens.", readsIntensity(), parameter("Presets", &LensFlare::Presets));
+    }
 };
 
 /// Light that leaked into the camera.
@@ -63,6 +74,12 @@ struct LightLeaks : VideoEffect
     };
 
     Preset Presets = {}; ///< named as in the archives
+
+    static constexpr auto describe()
+    {
+        return description(
+            "Light that leaked into the camera.", readsIntensity(), parameter("Presets", &LightLeaks::Presets));
+    }
 };
 
 /// Colours the rim of the picture.
@@ -76,6 +93,12 @@ struct VignetteFilter : VideoEffect
     };
 
     Preset preset = {};
+
+    static constexpr auto describe()
+    {
+        return description(
+            "Colours the rim of the picture.", readsIntensity(), parameter("preset", &VignetteFilter::preset));
+    }
 };
 
 } // namespace Effect

@@ -43,8 +43,6 @@ bool FrameConceal::operator==(FrameConceal const & other) const
                                  fuzzyEqual(opacity, other.opacity) && fuzzyEqual(smoothness, other.smoothness));
 }
 
-EFFECT_CONSTRUCTOR(Mask, VideoEffect, Id::Mask, Id::Mask, Tags::tagMask)
-
 EFFECT_SETTER(Mask, setBackgroundFill, BackgroundFill, backgroundFill)
 EFFECT_SETTER(Mask, setBackgroundOpacity, double, backgroundOpacity)
 EFFECT_SETTER(Mask, setBackgroundSmoothness, double, backgroundSmoothness)

@@ -31,6 +31,14 @@ struct EFFECTS_API Frame : Serialize::ISerializable
     bool outline = false;                  ///< whether the engine draws its edge
     QString trackingId{QLatin1String("")}; ///< of the motion track; empty for a frame that stands still
     Types::Transform trackingTransform;    ///< places the frame in the tracked rectangle
+
+    static constexpr auto describe()
+    {
+        return description("A frame on the picture, which stands still or follows a motion track.",
+            parameter("shape", &Frame::shape), parameter("transform", &Frame::transform),
+            parameter("outline", &Frame::outline), parameter("trackingId", &Frame::trackingId),
+            parameter("trackingTransform", &Frame::trackingTransform));
+    }
 };
 
 /// A frame that keeps its inside as it is, while the rest of the picture is background.
@@ -47,6 +55,11 @@ struct EFFECTS_API FrameHighlight : Frame
     /// Compares shape, transform and outline: frames that look alike are equal, whatever they follow.
     bool operator==(FrameHighlight const & other) const;
     bool operator!=(FrameHighlight const & other) const { return !(*this == other); }
+
+    static constexpr auto describe()
+    {
+        return description("A frame that keeps its inside as it is, while the rest of the picture is background.");
+    }
 };
 
 /// A frame that hides its inside.
@@ -81,6 +94,13 @@ struct EFFECTS_API FrameConceal : Frame
     /// the frames follow nor their pixel size is compared.
     bool operator==(FrameConceal const & other) const;
     bool operator!=(FrameConceal const & other) const { return !(*this == other); }
+
+    static constexpr auto describe()
+    {
+        return description("A frame that hides its inside.", parameter("method", &FrameConceal::method),
+            parameter("opacity", &FrameConceal::opacity), parameter("smoothness", &FrameConceal::smoothness),
+            parameter("pixelSize", &FrameConceal::pixelSize));
+    }
 };
 
 /// Frames on the picture. All highlight frames together leave one background; each conceal frame hides for itself. The
@@ -116,6 +136,14 @@ struct EFFECTS_API Mask : VideoEffect
     Mask * clearHighlightFrames();
     Mask * clearConcealFrames();
     /// @}
+
+    static constexpr auto describe()
+    {
+        return description("Frames on the picture.", parameter("backgroundFill", &Mask::backgroundFill),
+            parameter("backgroundOpacity", &Mask::backgroundOpacity),
+            parameter("backgroundSmoothness", &Mask::backgroundSmoothness),
+            parameter("highlightFrames", &Mask::highlightFrames), parameter("concealFrames", &Mask::concealFrames));
+    }
 };
 
 } // namespace Effect

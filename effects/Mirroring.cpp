@@ -4,10 +4,14 @@
 
 namespace Effect {
 
-EFFECT_CONSTRUCTOR(Flip, VideoEffect, Id::Flip, Id::Flip, Tags::tagFlip)
-EFFECT_CONSTRUCTOR(Mirror, VideoEffect, Id::Mirror, Id::Mirror, Tags::tagMirror)
+QString Flip::defaultTag() const
+{
+    return Tags::tagFlip;
+}
 
-EFFECT_DEFAULT_TAG(Flip, Tags::tagFlip)
-EFFECT_DEFAULT_TAG(Mirror, Tags::tagMirror)
+QString Mirror::defaultTag() const
+{
+    return Tags::tagMirror;
+}
 
 } // namespace Effect

@@ -18,6 +18,12 @@ struct Flip : VideoEffect
     bool horizontal = false; ///< left and right exchanged
 
     QString defaultTag() const override;
+
+    static constexpr auto describe()
+    {
+        return description("Turns the picture over, on either axis.", parameter("vertical", &Flip::vertical),
+            parameter("horizontal", &Flip::horizontal));
+    }
 };
 
 /// Repeats a half of the picture in the other half as in a mirror, on either axis.
@@ -38,6 +44,12 @@ struct Mirror : VideoEffect
     Half horizontal = Half::None;
 
     QString defaultTag() const override;
+
+    static constexpr auto describe()
+    {
+        return description("Repeats a half of the picture in the other half as in a mirror, on either axis.",
+            parameter("vertical", &Mirror::vertical), parameter("horizontal", &Mirror::horizontal));
+    }
 };
 
 } // namespace Effect

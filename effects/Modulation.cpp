@@ -25,11 +25,9 @@ AudioVibrato::AudioVibrato()
     intensity = 0.8;
 }
 
-EFFECT_FILTER_OVERRIDES(AudioDistortion, Tags::tagAudioDistortion)
-EFFECT_FILTER_OVERRIDES(AudioFlanger, Tags::tagAudioFlanger)
-EFFECT_FILTER_OVERRIDES(AudioVibrato, Tags::tagAudioVibrato)
-
-EFFECT_CONSTRUCTOR(AudioReverb, AudioFilter, Id::Reverb, Id::Reverb, Tags::tagAudioReverb)
-EFFECT_DEFAULT_TAG(AudioReverb, Tags::tagAudioReverb)
+QString AudioReverb::defaultTag() const
+{
+    return Tags::tagAudioReverb;
+}
 
 } // namespace Effect

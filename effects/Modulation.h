@@ -21,6 +21,12 @@ struct EFFECTS_API AudioDistortion : AudioEffect
     Kind type{0};       ///< hides the operation of the base, which remains as `Object::type()`
     double boost = 0.1; ///< how hard the sound is driven; passed on as it is
     double tone = 0.5;  ///< how bright the result is; passed on as it is
+
+    static constexpr auto describe()
+    {
+        return description("Overdrives the sound.", readsIntensity(), parameter("type", &AudioDistortion::type),
+            parameter("boost", &AudioDistortion::boost), parameter("tone", &AudioDistortion::tone));
+    }
 };
 
 /// Puts the sound into a room.
@@ -36,6 +42,13 @@ struct EFFECTS_API AudioReverb : AudioFilter
         16000; ///< where the low pass ends, in hertz; at most half the sample rate reaches the engine
 
     QString defaultTag() const override;
+
+    static constexpr auto describe()
+    {
+        return description("Puts the sound into a room.", readsIntensity(), parameter("delay", &AudioReverb::delay),
+            parameter("duration", &AudioReverb::duration), parameter("dryWetBalance", &AudioReverb::dryWetBalance),
+            parameter("frequency", &AudioReverb::frequency));
+    }
 };
 
 /// Adds a copy with a wandering delay.
@@ -59,6 +72,14 @@ struct EFFECTS_API AudioFlanger : AudioEffect
     double regen = 0.0;             ///< how much of the output is fed back
     double speed = 0.5;             ///< of the wave
     double phase = 25.0;            ///< between the channels
+
+    static constexpr auto describe()
+    {
+        return description("Adds a copy with a wandering delay.", parameter("shape", &AudioFlanger::shape),
+            parameter("interpolation", &AudioFlanger::interpolation), parameter("delay", &AudioFlanger::delay),
+            parameter("depth", &AudioFlanger::depth), parameter("regen", &AudioFlanger::regen),
+            parameter("speed", &AudioFlanger::speed), parameter("phase", &AudioFlanger::phase));
+    }
 };
 
 /// Makes the pitch tremble.
@@ -67,6 +88,12 @@ struct EFFECTS_API AudioVibrato : AudioEffect
     EFFECT_FILTER_CLASS(AudioVibrato)
 
     double frequencyHz = 15.0; ///< of the trembling, in hertz
+
+    static constexpr auto describe()
+    {
+        return description(
+            "Makes the pitch tremble.", readsIntensity(), parameter("frequencyHz", &AudioVibrato::frequencyHz));
+    }
 };
 
 } // namespace Effect

@@ -22,8 +22,6 @@ Lut::Lut(QString const & name)
     resource = Resource::ID(name, Resource::Type::Blob);
 }
 
-EFFECT_FILTER_OVERRIDES(Lut, Tags::tagLut)
-
 ShaderISF::ShaderISF()
     : ShaderISF(noResource)
 {}
@@ -40,9 +38,10 @@ ShaderISF::DownloadResourceType ShaderISF::downloadResourceType() const
     return DownloadResourceType::Shader;
 }
 
-EFFECT_DEFAULT_TAG(ShaderISF, Tags::tagShaderISF)
-
-EFFECT_CONSTRUCTOR(ExternalShader, VideoEffect, Id::ExternalShader, Id::ExternalShader, Tags::tagExternalShader)
+QString ShaderISF::defaultTag() const
+{
+    return Tags::tagShaderISF;
+}
 
 bool ExternalShader::hasIntensity() const
 {

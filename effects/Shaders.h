@@ -16,6 +16,12 @@ struct EFFECTS_API Lut : VideoEffect
 
     /// @param name  of the resource and of the group; "no resource" in a default effect
     explicit Lut(QString const & name);
+
+    static constexpr auto describe()
+    {
+        return description(
+            "Maps the colours through the lookup table in a file, which `resource` names.", readsIntensity());
+    }
 };
 
 /// Runs a shader in the Interactive Shader Format, which `resource` names and `resourcePath` finds. Its intensity has
@@ -34,6 +40,13 @@ struct EFFECTS_API ShaderISF : VideoEffect
 
     DownloadResourceType downloadResourceType() const override; ///< a shader
     QString defaultTag() const override;
+
+    static constexpr auto describe()
+    {
+        return description(
+            "Runs a shader in the Interactive Shader Format, which `resource` names and `resourcePath` finds.",
+            parameter("inputs", &ShaderISF::inputs));
+    }
 };
 
 /// Runs a fragment shader from a file, with a second picture at hand. A file that is missing or empty leaves the
@@ -49,6 +62,15 @@ struct EFFECTS_API ExternalShader : VideoEffect
     QString auxImageResource{QLatin1String("")}; ///< name of the second picture's resource; empty when there is none
 
     bool hasIntensity() const override; ///< `supportsIntensity`
+
+    static constexpr auto describe()
+    {
+        return description("Runs a fragment shader from a file, with a second picture at hand.",
+            parameter("apiVersion", &ExternalShader::apiVersion),
+            parameter("supportsIntensity", &ExternalShader::supportsIntensity),
+            parameter("shaderResource", &ExternalShader::shaderResource),
+            parameter("auxImageResource", &ExternalShader::auxImageResource));
+    }
 };
 
 } // namespace Effect

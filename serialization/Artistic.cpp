@@ -1,6 +1,4 @@
-#include <effects/archive/Artistic.h>
+#include <effects/Artistic.h>
 
-#include "Register.h"
-
-EFFECTS_ARTISTIC(EFFECT_KEY)
-EFFECTS_ARTISTIC(EFFECT_REGISTER)
+#define FAMILY Artistic
+#include "Family.h"

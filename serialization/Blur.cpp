@@ -1,6 +1,4 @@
-#include <effects/archive/Blur.h>
+#include <effects/Blur.h>
 
-#include "Register.h"
-
-EFFECTS_BLUR(EFFECT_KEY)
-EFFECTS_BLUR(EFFECT_REGISTER)
+#define FAMILY Blur
+#include "Family.h"

@@ -1,6 +1,4 @@
-#include <effects/archive/CleanUp.h>
+#include <effects/CleanUp.h>
 
-#include "Register.h"
-
-EFFECTS_CLEAN_UP(EFFECT_KEY)
-EFFECTS_CLEAN_UP(EFFECT_REGISTER)
+#define FAMILY CleanUp
+#include "Family.h"

@@ -1,6 +1,4 @@
-#include <effects/archive/ColorCorrection.h>
+#include <effects/ColorCorrection.h>
 
-#include "Register.h"
-
-EFFECTS_COLOR_CORRECTION(EFFECT_KEY)
-EFFECTS_COLOR_CORRECTION(EFFECT_REGISTER)
+#define FAMILY ColorCorrection
+#include "Family.h"

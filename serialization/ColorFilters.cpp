@@ -1,6 +1,4 @@
-#include <effects/archive/ColorFilters.h>
+#include <effects/ColorFilters.h>
 
-#include "Register.h"
-
-EFFECTS_COLOR_FILTERS(EFFECT_KEY)
-EFFECTS_COLOR_FILTERS(EFFECT_REGISTER)
+#define FAMILY ColorFilters
+#include "Family.h"

@@ -1,6 +1,4 @@
-#include <effects/archive/Composition.h>
+#include <effects/Composition.h>
 
-#include "Register.h"
-
-EFFECTS_COMPOSITION(EFFECT_KEY)
-EFFECTS_COMPOSITION(EFFECT_REGISTER)
+#define FAMILY Composition
+#include "Family.h"

@@ -1,6 +1,4 @@
-#include <effects/archive/Distortion.h>
+#include <effects/Distortion.h>
 
-#include "Register.h"
-
-EFFECTS_DISTORTION(EFFECT_KEY)
-EFFECTS_DISTORTION(EFFECT_REGISTER)
+#define FAMILY Distortion
+#include "Family.h"

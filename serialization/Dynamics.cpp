@@ -1,6 +1,4 @@
-#include <effects/archive/Dynamics.h>
+#include <effects/Dynamics.h>
 
-#include "Register.h"
-
-EFFECTS_DYNAMICS(EFFECT_KEY)
-EFFECTS_DYNAMICS(EFFECT_REGISTER)
+#define FAMILY Dynamics
+#include "Family.h"

@@ -1,6 +1,4 @@
-#include <effects/archive/Equalizer.h>
+#include <effects/Equalizer.h>
 
-#include "Register.h"
-
-EFFECTS_EQUALIZER(EFFECT_KEY)
-EFFECTS_EQUALIZER(EFFECT_REGISTER)
+#define FAMILY Equalizer
+#include "Family.h"

@@ -1,6 +1,4 @@
-#include <effects/archive/Geometry.h>
+#include <effects/Geometry.h>
 
-#include "Register.h"
-
-EFFECTS_GEOMETRY(EFFECT_KEY)
-EFFECTS_GEOMETRY(EFFECT_REGISTER)
+#define FAMILY Geometry
+#include "Family.h"

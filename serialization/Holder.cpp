@@ -1,6 +1,4 @@
-#include <effects/archive/Holder.h>
+#include <effects/Holder.h>
 
-#include "Register.h"
-
-EFFECTS_HOLDER(EFFECT_KEY)
-EFFECTS_HOLDER(EFFECT_REGISTER)
+#define FAMILY Holder
+#include "Family.h"

@@ -1,6 +1,4 @@
-#include <effects/archive/Light.h>
+#include <effects/Light.h>
 
-#include "Register.h"
-
-EFFECTS_LIGHT(EFFECT_KEY)
-EFFECTS_LIGHT(EFFECT_REGISTER)
+#define FAMILY Light
+#include "Family.h"

@@ -1,6 +1,4 @@
-#include <effects/archive/Mask.h>
+#include <effects/Mask.h>
 
-#include "Register.h"
-
-EFFECTS_MASK(EFFECT_KEY)
-EFFECTS_MASK(EFFECT_REGISTER)
+#define FAMILY Mask
+#include "Family.h"

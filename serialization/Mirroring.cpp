@@ -1,6 +1,4 @@
-#include <effects/archive/Mirroring.h>
+#include <effects/Mirroring.h>
 
-#include "Register.h"
-
-EFFECTS_MIRRORING(EFFECT_KEY)
-EFFECTS_MIRRORING(EFFECT_REGISTER)
+#define FAMILY Mirroring
+#include "Family.h"

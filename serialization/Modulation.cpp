@@ -1,6 +1,4 @@
-#include <effects/archive/Modulation.h>
+#include <effects/Modulation.h>
 
-#include "Register.h"
-
-EFFECTS_MODULATION(EFFECT_KEY)
-EFFECTS_MODULATION(EFFECT_REGISTER)
+#define FAMILY Modulation
+#include "Family.h"

@@ -1,17 +1,19 @@
 /// @file
-/// Making the classes of a family known in the archives. A family's source includes its archive header and this one,
-/// then applies `EFFECT_KEY` and `EFFECT_REGISTER` to its list in effects/ClassList.h.
+/// Making a class known in the archives and to `Effect::Schema`, from its description. Families do it through Family.h,
+/// a host's own class directly: `EFFECT_KEY` first, then `EFFECT_REGISTER`.
 #pragma once
 
 #include <new>
+#include <tuple>
+#include <type_traits>
 
 #include <boost/serialization/export.hpp>
 
 #include <EditorSerialization/BinaryArchive.h>
 #include <EditorSerialization/JsonArchive.h>
+#include <EditorSerialization/Layout.h>
 #include <EditorSerialization/ObjectTracker.h>
 #include <effects/Base.h>
-#include <effects/ClassList.h>
 
 namespace Effect::Registration {
 
@@ -24,6 +26,44 @@ template <class Class> void registerCasts()
     boost::serialization::void_cast_register<Class, ::Serialize::ISerializable>();
 }
 
+/// Names a class's base in the archives, which is not always its base in C++; `void` for none.
+template <class Base> struct ArchiveBase
+{};
+
+/// Walks an object's content: its base first, then the fields that its class describes.
+template <class Archive, class Class, class Base> void walk(Archive & archive, Class & object, ArchiveBase<Base>)
+{
+    std::apply(
+        [&](auto const &... parameter) {
+            if constexpr (std::is_void_v<Base>)
+                ::Serialize::fields(archive, ::Serialize::field(parameter.key, object.*parameter.member)...);
+            else
+                ::Serialize::fields<Base>(
+                    archive, object, ::Serialize::field(parameter.key, object.*parameter.member)...);
+        },
+        Class::describe().own);
+}
+
+template <class Class, std::size_t... Index> constexpr auto makeFields(std::index_sequence<Index...>)
+{
+    return std::array<::Serialize::FieldLayout, sizeof...(Index)>{
+        ::Serialize::layoutOf<Class, std::get<Index>(Class::describe().own).member>(
+            std::get<Index>(Class::describe().own).key)...};
+}
+
+template <class Class> inline constexpr std::size_t fieldCount = std::tuple_size_v<decltype(Class::describe().own)>;
+
+template <class Class>
+inline constexpr auto fieldLayouts = makeFields<Class>(std::make_index_sequence<fieldCount<Class>>());
+
+template <class Class, class Base> constexpr ::Serialize::Layout makeLayout(char const * name)
+{
+    ::Serialize::Layout const * base = nullptr;
+    if constexpr (!std::is_void_v<Base>)
+        base = ::Serialize::Access::layout<Base>();
+    return {name, true, base, fieldLayouts<Class>.data(), fieldCount<Class>};
+}
+
 } // namespace Effect::Registration
 
 /// The archive name as the framework's key. Every source that walks a class or a base must have seen its key first,
@@ -33,7 +73,7 @@ template <class Class> void registerCasts()
     {};                                                                                                                \
     template <> struct boost::serialization::ext::guid_impl<Effect::Class>                                             \
     {                                                                                                                  \
-        static char const * call() { return Effect::Class::NameInArchive(); }                                          \
+        static char const * call() { return "Effect::" #Class; }                                                       \
     };
 
 #define EFFECT_INSTANTIATE(Class, Archive)                                                                             \
@@ -42,16 +82,26 @@ template <class Class> void registerCasts()
 
 /// Defines what `EFFECT_CLASS` declares, and instantiates the class's `serialize` for the seven kinds of reader and
 /// writer.
-#define EFFECT_REGISTER(Class)                                                                                         \
+#define EFFECT_REGISTER(Class, Base)                                                                                   \
     struct Effect::Class::Creator final : ::Serialize::BaseCreator                                                     \
     {                                                                                                                  \
         Creator() { Effect::Registration::registerCasts<Class>(); }                                                    \
         ::Serialize::ISerializable * create() const override { return new (std::nothrow) Class; }                      \
     };                                                                                                                 \
-    ::Serialize::Registrator const Effect::Class::s_registrator(NameInArchive(), new (std::nothrow) Creator);          \
+    ::Serialize::Registrator const Effect::Class::s_registrator("Effect::" #Class, new (std::nothrow) Creator);        \
+    ::Serialize::Layout const Effect::Class::s_layout =                                                                \
+        Effect::Registration::makeLayout<Effect::Class, Base>("Effect::" #Class);                                      \
+    char const * Effect::Class::NameInArchive()                                                                        \
+    {                                                                                                                  \
+        return "Effect::" #Class;                                                                                      \
+    }                                                                                                                  \
     std::string Effect::Class::GetNameInArchive() const                                                                \
     {                                                                                                                  \
-        return NameInArchive();                                                                                        \
+        return "Effect::" #Class;                                                                                      \
+    }                                                                                                                  \
+    template <class Archive> void Effect::Class::serialize(Archive & archive)                                          \
+    {                                                                                                                  \
+        Effect::Registration::walk(archive, *this, Effect::Registration::ArchiveBase<Base>());                         \
     }                                                                                                                  \
     void Effect::Class::Serialize(::Serialize::ISerializer & serializer) const                                         \
     {                                                                                                                  \
@@ -71,4 +121,7 @@ template <class Class> void registerCasts()
     EFFECT_INSTANTIATE(Class, Json::iarchive)                                                                          \
     EFFECT_INSTANTIATE(Class, ObjectTracker)
 
-EFFECTS_BASES(EFFECT_KEY)
+// The bases are walked by the classes of every family.
+#define ROW_CLASS(Class, Base) EFFECT_KEY(Class)
+#define ROWS <effects/Base.def>
+#include <effects/Rows.h>

@@ -1,6 +1,4 @@
-#include <effects/archive/Retro.h>
+#include <effects/Retro.h>
 
-#include "Register.h"
-
-EFFECTS_RETRO(EFFECT_KEY)
-EFFECTS_RETRO(EFFECT_REGISTER)
+#define FAMILY Retro
+#include "Family.h"

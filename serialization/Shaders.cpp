@@ -1,6 +1,4 @@
-#include <effects/archive/Shaders.h>
+#include <effects/Shaders.h>
 
-#include "Register.h"
-
-EFFECTS_SHADERS(EFFECT_KEY)
-EFFECTS_SHADERS(EFFECT_REGISTER)
+#define FAMILY Shaders
+#include "Family.h"

@@ -1,6 +1,4 @@
-#include <effects/archive/Voice.h>
+#include <effects/Voice.h>
 
-#include "Register.h"
-
-EFFECTS_VOICE(EFFECT_KEY)
-EFFECTS_VOICE(EFFECT_REGISTER)
+#define FAMILY Voice
+#include "Family.h"

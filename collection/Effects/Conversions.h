@@ -1,8 +1,13 @@
 /// @file
-/// What the conversions of all families share, and their declarations, one line an effect.
+/// What the conversions of all families share. A conversion is a row of the factory's tables, which the family's source
+/// adds itself:
 ///
-/// A conversion fills the settings object that its row in the factory's tables names. Numbers are passed as they are
-/// unless the engine wants them narrower; what a field means to the engine is told with the effect.
+/// ```cpp
+/// table.add<Blur, Proc::SettingsEffectBlurGaussian>(
+///     Id::Blur, [](auto & settings, Blur const & effect) { settings.SetScale(effect.intensity / 20.0); });
+/// ```
+///
+/// Numbers are passed as they are unless the engine wants them narrower.
 #pragma once
 
 #include <algorithm>
@@ -13,43 +18,23 @@
 #include <string>
 #include <typeinfo>
 
+#include <functional>
+#include <type_traits>
+#include <typeinfo>
+#include <utility>
+
+#include <collection/Effects/FactoryCaches.h>
+#include <collection/Effects/Stages.h>
+#include <ConfInt/ImplNames.h>
 #include <EditorModel/EffectFactory.h>
-#include <effects/Artistic.h>
-#include <effects/Blur.h>
-#include <effects/ColorFilters.h>
-#include <effects/ColorMixField.h>
-#include <effects/Distortion.h>
-#include <effects/Effects.h>
-#include <effects/Light.h>
-#include <effects/Mirroring.h>
-#include <effects/Retro.h>
-#include <effects/Voice.h>
-#include <Settings/SettingsArtistic.h>
-#include <Settings/SettingsAudio.h>
-#include <Settings/SettingsBlur.h>
-#include <Settings/SettingsColor.h>
-#include <Settings/SettingsColorFilter.h>
-#include <Settings/SettingsComposition.h>
-#include <Settings/SettingsDistortion.h>
-#include <Settings/SettingsLight.h>
-#include <Settings/SettingsMask.h>
-#include <Settings/SettingsRetro.h>
-#include <Settings/SettingsShader.h>
-#include <Settings/SettingsTransform.h>
+#include <effects/Base.h>
+
+#include <QMap>
+#include <QString>
 
 namespace Effect::Factory {
 
 namespace Proc = Quoril::Proc;
-
-struct VideoContext; // collection/Effects/FactoryCaches.h
-
-/// Codes that the engine receives with the settings.
-namespace Stage {
-inline constexpr std::uint8_t audio = 1;
-inline constexpr std::uint8_t openGl = 2;
-inline constexpr std::uint8_t video = 18;
-inline constexpr std::uint8_t oneButton = 19; ///< one-button colour corrections
-} // namespace Stage
 
 /// A record of one settings object.
 EffectSettings makeEffectSettings(
@@ -61,7 +46,7 @@ EffectSettings makeEffectSettings(
 /// The effect as an object of the class that its identifier belongs to; throws as `throwWrongClass` for another class.
 template <class Effect> Effect const & castTo(Object const & object)
 {
-    // Nearly every object is of the very class that is asked for, which is seen at a glance.
+    // A fast path for an exact match.
     if (typeid(object) == typeid(Effect))
         return static_cast<Effect const &>(object);
     if (auto const * const cast = dynamic_cast<Effect const *>(&object))
@@ -131,108 +116,76 @@ constexpr Row const & nearestRow(Row const (&table)[size], Enum preset)
     return table[std::clamp(static_cast<int>(preset), 0, static_cast<int>(size) - 1)];
 }
 
-// Colour correction.
-void fill(Proc::SettingsEffectAutoWhiteBalance &, WhiteBalance const &, VideoParams const &);
-EffectSettings convertManualEnhance(Object const &, VideoParams const &);
+/// How the effects of one identifier are converted.
+template <class Params> struct Conversion
+{
+    std::function<EffectSettings(Object const &, Params const &)> convert;
+    std::type_info const * effectClass = nullptr;
+};
 
-// Geometry and mirroring.
-void fill(Proc::SettingsEffectTransform &, Crop const &, VideoParams const &);
-void fill(Proc::SettingsEffectTransform &, Transpose const &, VideoParams const &);
-void fill(Proc::SettingsEffectFixVertVideo &, FixVertVideo const &, VideoParams const &);
-void fill(Proc::SettingsEffectTransform &, Flip const &, VideoParams const &);
-void fill(Proc::SettingsEffectMirror &, Mirror const &, VideoParams const &);
+/// Conversions by identifier.
+template <class Params> using ConversionTable = QMap<QString, Conversion<Params>>;
 
-// Composition.
-EffectSettings convertPictureInPicture(Object const &, VideoParams const &);
-void fill(Proc::SettingsEffectSubFrame &, SideBySide const &, VideoParams const &);
-void fill(Proc::SettingsEffectOpacity &, Opacity const &, VideoParams const &);
-void fill(Proc::SettingsEffectChromakey &, ChromaKey const &, VideoParams const &);
-void fill(Proc::SettingsEffectColorBlender &, Overlay const &, VideoParams const &);
-void fill(Proc::SettingsEffectColorBlender &, ColorBlending const &, VideoParams const &);
+/// The factory's tables. Whether a row is a video or an audio one follows from the effect's class.
+class Conversions
+{
+public:
+    /// Effects of that identifier and class become one settings object, made with its default constructor and filled
+    /// by `fill(settings, effect)` or `fill(settings, effect, params)`: a `VideoContext` or an `AudioParams`.
+    /// @param implementation  lasts as long as the program
+    template <class Effect, class Settings, class Fill>
+    void add(QString const & id, Fill fill, std::uint8_t stage = stageOf<Effect>,
+        std::string const & implementation = Proc::ImplNames::DEFAULT)
+    {
+        addRecord<Effect>(id, [fill, stage, &implementation](Effect const & effect, ParamsOf<Effect> const & params) {
+            auto settings = std::make_unique<Settings>();
+            if constexpr (std::is_invocable_v<Fill, Settings &, Effect const &, ParamsOf<Effect> const &>)
+                fill(*settings, effect, params);
+            else
+                fill(*settings, effect);
+            return makeEffectSettings(std::move(settings), stage, implementation);
+        });
+    }
 
-// Mask.
-EffectSettings convertMask(Object const &, VideoParams const &);
+    /// The same for a settings object that stays as it was made.
+    template <class Effect, class Settings>
+    void addBare(QString const & id, std::uint8_t stage = stageOf<Effect>,
+        std::string const & implementation = Proc::ImplNames::DEFAULT)
+    {
+        add<Effect, Settings>(
+            id, [](Settings &, Effect const &) {}, stage, implementation);
+    }
 
-// Lookup tables and shaders.
-void fill(Proc::SettingsEffectTemplateQES &, ExternalShader const &, VideoParams const &);
-void fill(Proc::SettingsEffectLUT &, Lut const &, VideoContext const &);
-void fill(Proc::SettingsEffectISF &, ShaderISF const &, VideoContext const &);
+    /// Effects of that identifier and class become the record that `convert(effect, params)` returns.
+    template <class Effect, class Convert> void addRecord(QString const & id, Convert convert)
+    {
+        tableOf<Effect>().insert(id, {[convert](Object const & object, ParamsOf<Effect> const & params) {
+                                          return convert(castTo<Effect>(object), params);
+                                      },
+                                         &typeid(Effect)});
+    }
 
-// Blur and sharpness.
-void fill(Proc::SettingsEffectBlurGaussian &, Blur const &, VideoParams const &);
-void fill(Proc::SettingsEffectBokehBlur &, BokehBlur const &, VideoContext const &);
-void fill(Proc::SettingsEffectMotionBlur &, MotionBlur const &, VideoParams const &);
-void fill(Proc::SettingsEffectTiltShiftQEM &, TiltShift const &, VideoParams const &);
-void fill(Proc::SettingsEffectSharpen &, Sharpen const &, VideoParams const &);
+    ConversionTable<VideoContext> video;
+    ConversionTable<AudioParams> audio;
 
-// Distortion.
-void fill(Proc::SettingsEffectTwirl &, Twirl const &, VideoParams const &);
-void fill(Proc::SettingsEffectVertigo &, Vertigo const &, VideoParams const &);
-void fill(Proc::SettingsEffectFishEye &, FishEye const &, VideoParams const &);
-void fill(Proc::SettingsEffectLensDistortion &, LensDistortion const &, VideoParams const &);
-void fill(Proc::SettingsEffectCameraShake &, CameraShake const &, VideoParams const &);
-void fill(Proc::SettingsEffectChromaticAberration &, ChromaticAberration const &, VideoParams const &);
+private:
+    template <class Effect> static constexpr bool isVideo = std::is_base_of_v<VideoEffect, Effect>;
+    template <class Effect> static constexpr std::uint8_t stageOf = isVideo<Effect> ? Stage::video : Stage::audio;
+    template <class Effect> using ParamsOf = std::conditional_t<isVideo<Effect>, VideoContext, AudioParams>;
 
-// Artistic filters.
-void fill(Proc::SettingsEffectOilPaint &, OilPaint const &, VideoParams const &);
-void fill(Proc::SettingsEffectPopArt &, PopArt const &, VideoParams const &);
-void fill(Proc::SettingsEffectPosterize &, Posterize const &, VideoParams const &);
-void fill(Proc::SettingsEffectFindEdges &, FindEdges const &, VideoParams const &);
-void fill(Proc::SettingsEffectHalfTone &, HalfTone const &, VideoParams const &);
-void fill(Proc::SettingsEffectMosaic &, Mosaic const &, VideoParams const &);
-void fill(Proc::SettingsEffectGlassMosaic &, GlassMosaic const &, VideoParams const &);
-void fill(Proc::SettingsEffectErosion &, Erosion const &, VideoParams const &);
-void fill(Proc::SettingsEffectDiffuse &, Diffuse const &, VideoParams const &);
-void fill(Proc::SettingsEffectStripes &, Stripes const &, VideoParams const &);
-void fill(Proc::SettingsEffectAddNoize &, AddNoize const &, VideoParams const &);
+    template <class Effect> auto & tableOf()
+    {
+        if constexpr (isVideo<Effect>)
+            return video;
+        else
+            return audio;
+    }
+};
 
-// Retro and glitch.
-void fill(Proc::SettingsEffectRetroArtefacts &, RetroArtefacts const &, VideoParams const &);
-void fill(Proc::SettingsEffectRetroColors &, RetroColors const &, VideoParams const &);
-void fill(Proc::SettingsEffectVHS &, VHS const &, VideoParams const &);
-void fill(Proc::SettingsEffectTelevision70s &, Television70s const &, VideoParams const &);
-void fill(Proc::SettingsEffectGlitchMpeg &, GlitchMpeg const &, VideoParams const &);
-void fill(Proc::SettingsEffectGlitchSecurityCam &, GlitchSecurityCam const &, VideoParams const &);
-void fill(Proc::SettingsEffectFilmStrip &, FilmStrip const &, VideoParams const &);
-
-// Colour filters.
-void fill(Proc::SettingsEffectColorBrush &, ColorBrush const &, VideoParams const &);
-void fill(Proc::SettingsEffectColorFilter &, ColorFilter const &, VideoParams const &);
-void fill(Proc::SettingsEffectColorMixBurn &, ColorMixBurn const &, VideoParams const &);
-void fill(Proc::SettingsEffectColorSelect &, ColorSelect const &, VideoParams const &);
-void fill(Proc::SettingsEffectColorMixExchange &, ColorMixExchange const &, VideoParams const &);
-void fill(Proc::SettingsEffectColorMixField &, ColorMixField const &, VideoParams const &);
-void fill(Proc::SettingsEffectInvert &, Invert const &, VideoParams const &);
-
-// Light and particles.
-void fill(Proc::SettingsEffectFlyingObjects &, FlyingObjects const &, VideoContext const &);
-void fill(Proc::SettingsEffectLensFlare &, LensFlare const &, VideoParams const &);
-void fill(Proc::SettingsEffectLightLeaks &, LightLeaks const &, VideoParams const &);
-void fill(Proc::SettingsEffectVignetteFilter &, VignetteFilter const &, VideoParams const &);
-
-// Equalizer.
-void fill(Proc::SettingsAudioEqualizer &, AudioEqualizer const &, AudioParams const &);
-
-// Dynamics.
-void fill(Proc::SettingsAudioGate &, AudioNoiseGate const &, AudioParams const &);
-void fill(Proc::SettingsAudioCompressor &, AudioCompressor const &, AudioParams const &);
-
-// Modulation and space.
-void fill(Proc::SettingsAudioDistortion &, AudioDistortion const &, AudioParams const &);
-void fill(Proc::SettingsAudioReverberationImpulseResponse &, AudioReverb const &, AudioParams const &);
-void fill(Proc::SettingsAudioFlanger &, AudioFlanger const &, AudioParams const &);
-void fill(Proc::SettingsAudioVibrato &, AudioVibrato const &, AudioParams const &);
-
-// Voice.
-void fill(Proc::SettingsAudioEqualizer &, AudioPhone const &, AudioParams const &);
-void fill(Proc::SettingsAudioEqualizer &, AudioMuffle const &, AudioParams const &);
-void fill(Proc::SettingsAudioRadio &, AudioRadio const &, AudioParams const &);
-void fill(Proc::SettingsAudioEcho &, AudioEcho const &, AudioParams const &);
-void fill(Proc::SettingsAudioPitch &, AudioPitch const &, AudioParams const &);
-void fill(Proc::SettingsAudioRobot &, AudioRobot const &, AudioParams const &);
-
-// Clean-up.
-void fill(Proc::SettingsAudioNoiseSuppress &, AudioNoiseSuppress const &, AudioParams const &);
-void fill(Proc::SettingsFilterResample &, AudioMonoChannel const &, AudioParams const &);
+/// @{
+/// Each family with conversions has a function `addBlur(table)`, which its source in conversions/ defines.
+#define CONVERTED_FAMILY(family) void add##family(Conversions & table);
+#include <effects/Families.def>
+/// @}
 
 } // namespace Effect::Factory

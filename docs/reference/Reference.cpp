@@ -1,109 +1,33 @@
-/// @file
-/// Writes the reference page: every class that can stand in an archive, as the library itself tells it.
+// Writes docs/reference.md, the page of all effects, from the library's own descriptions of them.
 
 #include <cstdlib>
-#include <deque>
 #include <fstream>
 #include <iostream>
 #include <map>
-#include <memory>
-#include <optional>
 #include <sstream>
+#include <stdexcept>
 #include <string>
-#include <vector>
 
-#include <CLI/CLI.hpp>
-
-#include <boost/core/demangle.hpp>
-
-#include <collection/Effects/Conversions.h>
+#include <collection/Effects/Stages.h>
 #include <EditorModel/CollectionProvider.h>
 #include <EditorSettings/Settings.h>
 #include <EditorUtil/ItemStorage.h>
-#include <effects/ClassList.h>
+#include <effects/Schema.h>
 #include <host/Documents.h>
 #include <host/Messages.h>
 #include <host/RenderHost.h>
 #include <host/ToolName.h>
 #include <utils/EffectUtils.h>
 
-#include <effects/archive/Artistic.h>
-#include <effects/archive/Blur.h>
-#include <effects/archive/CleanUp.h>
-#include <effects/archive/ColorCorrection.h>
-#include <effects/archive/ColorFilters.h>
-#include <effects/archive/Composition.h>
-#include <effects/archive/Distortion.h>
-#include <effects/archive/Dynamics.h>
-#include <effects/archive/Equalizer.h>
-#include <effects/archive/Geometry.h>
-#include <effects/archive/Holder.h>
-#include <effects/archive/Light.h>
-#include <effects/archive/Mask.h>
-#include <effects/archive/Mirroring.h>
-#include <effects/archive/Modulation.h>
-#include <effects/archive/Retro.h>
-#include <effects/archive/Shaders.h>
-#include <effects/archive/Voice.h>
+#include <CLI/CLI.hpp>
+#include <nlohmann/json.hpp>
 
 namespace {
 
+using Effect::Schema::Class;
+using Effect::Schema::Kind;
+using Effect::Schema::Parameter;
 using nlohmann::json;
-
-template <class T> struct TypeName
-{
-    static std::string get()
-    {
-        std::string name = boost::core::demangle(typeid(T).name());
-        std::string const ours = "Effect::";
-        return name.rfind(ours, 0) == 0 ? name.substr(ours.size()) : name;
-    }
-};
-template <> struct TypeName<std::int32_t>
-{
-    static std::string get() { return "int32"; }
-};
-template <> struct TypeName<std::uint32_t>
-{
-    static std::string get() { return "uint32"; }
-};
-template <> struct TypeName<std::int64_t>
-{
-    static std::string get() { return "int64"; }
-};
-template <> struct TypeName<std::string>
-{
-    static std::string get() { return "std::string"; }
-};
-template <class T> struct TypeName<std::unique_ptr<T>>
-{
-    static std::string get() { return "pointer to " + TypeName<std::remove_const_t<T>>::get(); }
-};
-template <class T> struct TypeName<std::deque<T>>
-{
-    static std::string get() { return "list of " + TypeName<T>::get(); }
-};
-template <class T> struct TypeName<std::optional<T>>
-{
-    static std::string get() { return "optional " + TypeName<T>::get(); }
-};
-
-/// Walks a class as an archive does, and takes down the type that each field has.
-class FieldTypes
-{
-public:
-    using is_saving = std::true_type;
-
-    template <class T> FieldTypes & operator&(Serialize::Field<T> & field)
-    {
-        // A base, which has an entry of its own.
-        if constexpr (!std::is_base_of_v<Serialize::ISerializable, T>)
-            types.emplace_back(field.name(), TypeName<std::remove_const_t<T>>::get());
-        return *this;
-    }
-
-    std::vector<std::pair<std::string, std::string>> types; ///< by key, in the order of the binary form
-};
 
 std::string code(std::string const & text)
 {
@@ -113,6 +37,46 @@ std::string code(std::string const & text)
 std::string code(QString const & text)
 {
     return code(text.toStdString());
+}
+
+/// Text in a cell of a table.
+std::string cell(std::string text)
+{
+    for (std::size_t at = text.find('|'); at != std::string::npos; at = text.find('|', at + 2))
+        text.insert(at, "\\");
+    return text;
+}
+
+std::string number(double value)
+{
+    return json(value == std::int64_t(value) ? json(std::int64_t(value)) : json(value)).dump();
+}
+
+/// "0 to 1", "at least 0"; empty without either.
+std::string limits(std::optional<double> const & least, std::optional<double> const & most)
+{
+    if (least && most)
+        return number(*least) + " to " + number(*most);
+    if (least)
+        return "at least " + number(*least);
+    return most ? "at most " + number(*most) : std::string();
+}
+
+/// Bounds and what becomes of numbers beyond; of an enumeration, its choices.
+std::string boundsOf(Parameter const & parameter)
+{
+    std::string text = limits(parameter.minimum, parameter.maximum);
+    for (Effect::Choice const & choice : parameter.choices)
+        text += (text.empty() ? "" : ", ") + std::to_string(choice.value) + " " + choice.name;
+    if (parameter.beyond) {
+        text += std::string("; beyond: ") + toString(*parameter.beyond);
+        if (parameter.fallback)
+            text += " " + number(*parameter.fallback);
+    }
+    std::string const slider = limits(parameter.suggestedMinimum, parameter.suggestedMaximum);
+    if (!slider.empty())
+        text += (text.empty() ? "" : "; ") + std::string("suggested: ") + slider;
+    return text;
 }
 
 std::string stageName(int code)
@@ -135,59 +99,89 @@ public:
     void text(std::string const & paragraph) { m_stream << paragraph << "\n\n"; }
     void family(std::string const & name) { text("## " + name); }
 
-    template <class Class> void addClass()
+    void addClass(Class const & info)
     {
-        auto const created = Host::create(Class::NameInArchive());
-        auto & object = dynamic_cast<Class &>(*created);
-        json const archived = Host::document(object);
-        text("### " + object.GetNameInArchive());
-        if constexpr (std::is_base_of_v<Effect::Object, Class>)
-            identity(object, archived);
-        else
-            text("A record that effects hold.");
-        FieldTypes own;
-        Serialize::Access::serialize(own, object);
-        fields(own.types, archived);
+        text("### " + info.name);
+        text(info.description().toStdString());
+        auto const created = info.create();
+        if (info.isEffect && !info.id.isEmpty())
+            identity(info, dynamic_cast<Effect::Object const &>(*created));
+        parameters(info);
     }
 
-    /// The keys of an archive document with their types and defaults.
-    void fields(std::vector<std::pair<std::string, std::string>> const & types, json const & defaults)
+    /// The parameters that the class itself declares.
+    void parameters(Class const & info)
     {
-        if (types.empty())
-            return;
-        m_stream << "| key | type | default |\n| --- | --- | --- |\n";
-        for (auto const & [key, type] : types)
-            m_stream << "| `" << key << "` | " << type << " | "
-                     << (defaults.contains(key) ? code(defaults[key].dump()) : "none") << " |\n";
-        m_stream << '\n';
+        bool isFirst = true;
+        for (Parameter const & parameter : info.parameters) {
+            if (parameter.owner != info.name)
+                continue;
+            if (isFirst)
+                m_stream << "| parameter | key | type | unit | default | bounds | |\n"
+                            "| --- | --- | --- | --- | --- | --- | --- |\n";
+            isFirst = false;
+            std::string note = parameter.description().toStdString();
+            if (parameter.isEffective == false)
+                note += note.empty() ? "No settings depend on it" : "; no settings depend on it";
+            json const value = parameter.defaultValue();
+            m_stream << "| " << cell(parameter.label().toStdString()) << " | `" << parameter.key << "` | "
+                     << cell(typeName(parameter)) << " | " << parameter.unit << " | "
+                     << (value.is_null() ? "none" : code(cell(valueText(parameter, value)))) << " | "
+                     << cell(boundsOf(parameter)) << " | " << cell(note) << " |\n";
+        }
+        if (!isFirst)
+            m_stream << '\n';
     }
 
 private:
+    static std::string typeName(Parameter const & parameter)
+    {
+        return parameter.kind == Kind::Enumeration || parameter.kind == Kind::Color
+                   ? parameter.type + ", " + toString(parameter.kind)
+                   : "`" + parameter.type + "`";
+    }
+
+    static std::string valueText(Parameter const & parameter, json const & value)
+    {
+        if (parameter.kind == Kind::Color) {
+            char text[16];
+            std::snprintf(text, sizeof text, "#%08x", value.get<unsigned>());
+            return text;
+        }
+        for (Effect::Choice const & choice : parameter.choices)
+            if (value == choice.value)
+                return value.dump() + " " + choice.name;
+        return value.dump();
+    }
+
     void row(std::string const & name, std::string const & value)
     {
         m_stream << "| " << name << " | " << value << " |\n";
     }
 
-    void identity(Effect::Object const & effect, json const & archived)
+    void identity(Class const & info, Effect::Object const & effect)
     {
-        if (effect.id.isEmpty())
-            return text("A base class of effects.");
-        std::string kind = effect.type() == Effect::Type::Audio ? "audio" : "video";
-        kind += effect.hasIntensity() ? ", with an intensity" : "";
-        kind += effect.isTwoInput() ? ", two inputs" : "";
+        std::string kind = info.type == Effect::Type::Audio ? "audio" : "video";
+        kind += info.hasIntensity ? ", with an intensity" : "";
+        kind += info.isTwoInput ? ", two inputs" : "";
 
         m_stream << "| | |\n| --- | --- |\n";
-        row("base", code(Host::baseOf(archived)));
+        row("base", code(info.base));
         row("kind", kind);
-        row("identifier", code(effect.id));
-        row("group", effect.groupId == effect.id ? "none, its own identifier" : code(effect.groupId));
-        row("tag", code(effect.tag));
-        row("default tag", code(effect.defaultTag()));
-        if (effect.processingSettingsId() != effect.id)
-            row("settings identifier", code(effect.processingSettingsId()));
+        row("identifier", code(info.id));
+        row("group", info.groupId == info.id ? "none, its own identifier" : code(info.groupId));
+        row("tag", code(info.tag));
+        row("default tag", code(info.defaultTag));
+        if (info.processingSettingsId != info.id)
+            row("settings identifier", code(info.processingSettingsId));
         settings(effect);
         auto const tool = Effect::Utils::findCorrespondingTool(effect);
         row("tool", tool == Tool::Type::None ? "none" : Host::toolName(tool));
+        if (Parameter const * const intensity = info.find("intensity"); intensity && info.hasIntensity) {
+            std::string const slider = limits(intensity->suggestedMinimum, intensity->suggestedMaximum);
+            row("intensity", number(info.intensity) + (slider.empty() ? "" : ", suggested: " + slider) + ". " +
+                                 intensity->description().toStdString());
+        }
         m_stream << '\n';
     }
 
@@ -227,39 +221,15 @@ void addIntroduction(Page & page)
     page.text("# Every effect");
     page.text("Written by `script/make-reference` from the library; do not edit.");
     page.text(
-        "A class's own keys stand in the order of the binary archives. Where a type is an enumeration, the archives "
-        "have its integer. The settings are those that a default effect converts to.");
+        "Each class lists its own parameters in the order of the binary archives. `type` is the C++ type; archives "
+        "hold an enumeration as its integer. What becomes of numbers beyond the bounds: `passed` to the engine as "
+        "they are, `clamped` to the nearer bound, `nearest` choice, or the `fallback` given. The settings are those "
+        "that a default effect converts to.");
 }
-
-/// What every effect has before the fields of its own.
-void addObject(Page & page)
-{
-    using Effect::Object;
-    page.text("## Common to all effects");
-    page.text("### Effect::Object");
-    page.fields(
-        {
-            {"tag", TypeName<decltype(Object::tag)>::get()},
-            {"id", TypeName<decltype(Object::id)>::get()},
-            {"groupId", TypeName<decltype(Object::groupId)>::get()},
-            {"intensity", TypeName<decltype(Object::intensity)>::get()},
-            {"resource", TypeName<decltype(Object::resource)>::get()},
-            {"resourcePath", TypeName<decltype(Object::resourcePath)>::get()},
-            {"range", TypeName<decltype(Object::range)>::get()},
-        },
-        Host::document(Effect::VideoEffect({}, {}))
-
-            .at(Object::NameInArchive()));
-}
-
-#define REFERENCE_CLASS(Class) page.addClass<Effect::Class>();
-#define REFERENCE_FAMILY(name, list, X)                                                                                \
-    page.family(#name);                                                                                                \
-    list(X)
 
 std::string makePage(QString const & stock)
 {
-    // The stock's audio effects tell the tool of an effect that nothing else does.
+    // Some effects have a tool only through an item of the stock.
     Settings::setStockRoot(stock);
     EditorCollection::ItemStorage storage;
     Host::RenderHost host(storage);
@@ -268,8 +238,20 @@ std::string makePage(QString const & stock)
     std::ostringstream stream;
     Page page(stream, host);
     addIntroduction(page);
-    addObject(page);
-    EFFECTS_FAMILIES(REFERENCE_FAMILY, REFERENCE_CLASS)
+    page.text("## Common to all effects");
+    page.text("### Effect::Object");
+    Class object = *Effect::Schema::find(Effect::VideoEffect::NameInArchive());
+    object.name = Effect::Object::NameInArchive();
+    page.parameters(object);
+    auto const addFamily = [&](std::string const & family) {
+        page.family(family);
+        for (Class const * const info : Effect::Schema::classes())
+            if (info->family == family)
+                page.addClass(*info);
+    };
+#define EXPORTED_FAMILY(family) addFamily(#family);
+#define HIDDEN_FAMILY(family) addFamily(#family);
+#include <effects/Families.def>
     std::string text = stream.str();
     text.pop_back(); // the empty line at the end
     return text;

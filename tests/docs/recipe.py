@@ -11,41 +11,34 @@ import subprocess
 import sys
 import tempfile
 
-END = "} // namespace Effect"
-COMPILED = ["effects/ColorCorrection.cpp", "effects/Identity.cpp", "serialization/ColorCorrection.cpp",
+# Where the page's three pieces go: in front of the last such line of the file.
+PLACES = {"effects/ColorCorrection.h": "} // namespace Effect",
+          "effects/ColorCorrection.def": "",
+          "collection/Effects/conversions/ColorCorrection.cpp": "}\n\n} // namespace Effect::Factory"}
+COMPILED = ["effects/Identity.cpp", "serialization/ColorCorrection.cpp", "serialization/Schema.cpp",
             "collection/Effects/conversions/ColorCorrection.cpp", "collection/Effects/SettingsFactory.cpp"]
 ENGINE_HEADER = "platform/Settings/include/Settings/SettingsColor.h"
 ENGINE_END = "} // namespace Quoril::Proc\n"
-# The page tells of the tables below in words alone.
+# The page mentions the engine's class without showing it.
 ENGINE_CLASS = """class SETTINGS_EXPORT SettingsEffectVibrance final : public Settings
 {
     SETTINGS_CLASS(SettingsEffectVibrance)
     SETTING(Amount, double)
-    SETTING(Intensity, float)
 };
 """
-IDENTIFIER = "namespace Id {{\n{0} QString const Vibrance{1};\n}}\nnamespace Tags {{\n{0} QString const tagVibrance{1};\n}}\n"
-DECLARATION = "void fill(Proc::SettingsEffectVibrance &, Vibrance const &, VideoParams const &);\n"
 
 
-def insert(path, text, place, after=False):
-    """Puts text in front of the last such place, or behind it."""
+def insert(path, text, place):
+    """Puts text in front of the last such place, or at the end."""
     content = path.read_text(encoding="utf-8")
-    at = content.rindex(place) + (len(place) if after else 0)
+    at = content.rindex(place) if place else len(content)
     path.write_text(content[:at] + text + content[at:], encoding="utf-8")
 
 
 def follow(page, root):
     for name, text in re.findall(r", in `([\w/.]+)`[^\n]*\n\n```cpp\n(.*?)```", page, re.DOTALL):
-        insert(root / name, text, END)
+        insert(root / name, text, PLACES[name])
         yield name
-    entry = re.search(r"`(X\(Vibrance\))`", page)[1]
-    insert(root / "effects/ClassList.h", " " + entry, "#define EFFECTS_COLOR_CORRECTION(X)", after=True)
-    row = re.search(r"`(\{Id::Vibrance, .*?\},)`", page)[1]
-    insert(root / "collection/Effects/SettingsFactory.cpp", row, "{Id::AutoContrast,")
-    insert(root / "collection/Effects/Conversions.h", DECLARATION, "} // namespace Effect::Factory\n")
-    insert(root / "effects/Identity.h", IDENTIFIER.format("EFFECTS_API extern", ""), END)
-    insert(root / "effects/Identity.cpp", IDENTIFIER.format("", ' = QLatin1String("vibrance")'), END)
     insert(root / ENGINE_HEADER, ENGINE_CLASS, ENGINE_END)
 
 
@@ -70,8 +63,8 @@ def main():
         for name in ["effects", "serialization", "collection", "utils", "platform/Settings"]:
             shutil.copytree(sources / name, root / name)
         edited = list(follow(page, root))
-        if len(edited) != 4:
-            sys.exit(f"the page should show four sources to edit, and shows {edited}")
+        if set(edited) != set(PLACES):
+            sys.exit(f"the page should show these three files to edit: {list(PLACES)}, and shows {edited}")
         for name in COMPILED:
             entry = entries[str(sources / name)]
             result = subprocess.run(command(entry, sources, root), cwd=entry["directory"], text=True,

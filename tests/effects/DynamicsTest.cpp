@@ -11,8 +11,11 @@ namespace {
 using namespace Effect;
 using Testing::expectKeys;
 
-void expectCommonDefaults(AudioDynamics const & effect)
+template <class Processor> void expectCommonDefaults(Processor const & effect)
 {
+    // The fields are shared, and no class lies between.
+    static_assert(std::is_base_of_v<AudioEffect, Processor>);
+    static_assert(!std::is_polymorphic_v<AudioDynamics>);
     EXPECT_EQ(effect.type(), Type::Audio);
     EXPECT_EQ(effect.impl(), Impl::Effect);
     EXPECT_TRUE(effect.hasIntensity());

@@ -2,16 +2,8 @@
 /// Every class of the library, for typed tests.
 #pragma once
 
-#include <effects/Artistic.h>
-#include <effects/Blur.h>
-#include <effects/ClassList.h>
-#include <effects/ColorFilters.h>
-#include <effects/Distortion.h>
 #include <effects/Effects.h>
-#include <effects/Light.h>
-#include <effects/Mirroring.h>
-#include <effects/Retro.h>
-#include <effects/Voice.h>
+#include <effects/HiddenFamilies.h>
 
 #include <gtest/gtest.h>
 
@@ -23,10 +15,12 @@ template <class First, class... Rest> testing::Types<Rest...> withoutFirst(testi
 
 } // namespace Detail
 
-#define EDITOR_LISTED(Class) , Effect::Class
-/// Each of the classes in effects/ClassList.h.
-using AllClasses = decltype(Detail::withoutFirst(testing::Types<void EFFECTS_ALL(EDITOR_LISTED)>()));
-#undef EDITOR_LISTED
+/// Each class in the families' .def files.
+using AllClasses = decltype(Detail::withoutFirst(testing::Types<void
+#define ROW_CLASS(Class, Base) , Effect::Class
+#define ROWS <support/AllFamilies.def>
+#include <effects/Rows.h>
+    >()));
 
 /// Names a typed test after its class.
 struct ClassName

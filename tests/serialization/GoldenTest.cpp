@@ -100,11 +100,11 @@ TEST_P(GoldenTest, Binary)
 std::vector<Golden> goldens()
 {
     std::vector<Golden> goldens;
-#define EDITOR_GOLDENS(Class)                                                                                          \
-    goldens.push_back({Effect::Class::NameInArchive(), false});                                                        \
-    goldens.push_back({Effect::Class::NameInArchive(), true});
-    EFFECTS_ALL(EDITOR_GOLDENS)
-#undef EDITOR_GOLDENS
+#define ROW_CLASS(Class, Base)                                                                                         \
+    goldens.push_back({"Effect::" #Class, false});                                                                     \
+    goldens.push_back({"Effect::" #Class, true});
+#define ROWS <support/AllFamilies.def>
+#include <effects/Rows.h>
     return goldens;
 }
 

@@ -19,8 +19,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <effects/ClassList.h>
-
 namespace {
 
 using Names = std::set<std::string>;
@@ -120,10 +118,11 @@ TEST(Boundary, NothingIsExportedThatIsNotTheLibrarysOwn)
 /// The classes of the families that the library keeps to itself.
 std::vector<std::string> hiddenClasses()
 {
-#define BOUNDARY_NAME(Class) #Class,
-    return {EFFECTS_MIRRORING(BOUNDARY_NAME) EFFECTS_BLUR(BOUNDARY_NAME) EFFECTS_DISTORTION(BOUNDARY_NAME)
-            EFFECTS_ARTISTIC(BOUNDARY_NAME) EFFECTS_RETRO(BOUNDARY_NAME) EFFECTS_COLOR_FILTERS(BOUNDARY_NAME)
-                EFFECTS_LIGHT(BOUNDARY_NAME) EFFECTS_VOICE(BOUNDARY_NAME)};
+#define ROW_CLASS(Class, Base) #Class,
+#define ROWS <effects/HiddenFamilies.def>
+    return {
+#include <effects/Rows.h>
+    };
 }
 
 TEST(Boundary, NothingIsExportedOfHiddenClassesTheirConstantsAndTheConversions)

@@ -47,7 +47,13 @@ TEST(Load, LibraryLoadsUnloadsAndLoadsAgainWithEveryReferenceResolved)
 
 TEST(Load, PluginThatUsesTheLibraryFindsEveryEffectEachTime)
 {
-    constexpr int effects = 84; // the eighty and their four bases
+    // Every archived class but the records, which are parts of effects.
+    constexpr int effects = 0
+#define ROW_CLASS(Class, Base) +1
+#define ROW_RECORD(Class) -1
+#define ROWS <support/AllFamilies.def>
+#include <effects/Rows.h>
+        ;
     for (int round = 1; round <= 2; ++round) {
         void * const plugin = dlopen(EDITOREFFECTS_PLUGIN, RTLD_NOW | RTLD_LOCAL);
         ASSERT_NE(plugin, nullptr) << dlerror() << " in round " << round;

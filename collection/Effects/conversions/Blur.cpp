@@ -1,15 +1,11 @@
 #include <collection/Effects/Conversions.h>
-#include <collection/Effects/FactoryCaches.h>
-
 #include <EditorSettings/Settings.h>
+#include <effects/Blur.h>
+#include <effects/PrivateIdentity.h>
 #include <FileSystem/FileSystem.h>
+#include <Settings/SettingsBlur.h>
 
 namespace Effect::Factory {
-
-void fill(Proc::SettingsEffectBlurGaussian & settings, Blur const & effect, VideoParams const &)
-{
-    settings.SetScale(effect.intensity / 20.0);
-}
 
 namespace {
 
@@ -28,29 +24,32 @@ constexpr char const * bokehMasks[] = {
 
 } // namespace
 
-void fill(Proc::SettingsEffectBokehBlur & settings, BokehBlur const & effect, VideoContext const & context)
+void addBlur(Conversions & table)
 {
-    QLatin1String const mask(nearestRow(bokehMasks, effect.preset));
-    settings.SetImage(context.caches.images.image(FS::joinPath({::Settings::stockBlurMasksPath(), mask}, QString())));
-    settings.SetIntensity(floatIntensity(effect));
-    settings.SetParams(0.045, 5.0, 0.575); // whatever the mask
-}
+    table.add<Blur, Proc::SettingsEffectBlurGaussian>(
+        Id::Blur, [](auto & settings, Blur const & effect) { settings.SetScale(effect.intensity / 20.0); });
 
-void fill(Proc::SettingsEffectMotionBlur & settings, MotionBlur const & effect, VideoParams const &)
-{
-    settings.SetScale(effect.intensity);
-}
+    table.add<BokehBlur, Proc::SettingsEffectBokehBlur>(
+        Id::BokehBlur, [](auto & settings, BokehBlur const & effect, auto const & context) {
+            QLatin1String const mask(nearestRow(bokehMasks, effect.preset));
+            settings.SetImage(
+                context.caches.images.image(FS::joinPath({::Settings::stockBlurMasksPath(), mask}, QString())));
+            settings.SetIntensity(floatIntensity(effect));
+            settings.SetParams(0.045, 5.0, 0.575); // whatever the mask
+        });
 
-void fill(Proc::SettingsEffectTiltShiftQEM & settings, TiltShift const & effect, VideoParams const &)
-{
-    settings.SetParams(effect.smns, effect.intensity);
-    settings.SetUpperLine(effect.a1, effect.b1, effect.c1);
-    settings.SetLowerLine(effect.a2, effect.b2, effect.c2);
-}
+    table.add<MotionBlur, Proc::SettingsEffectMotionBlur>(
+        Id::MotionBlur, [](auto & settings, MotionBlur const & effect) { settings.SetScale(effect.intensity); });
 
-void fill(Proc::SettingsEffectSharpen & settings, Sharpen const & effect, VideoParams const &)
-{
-    settings.SetLevel(effect.intensity);
+    table.add<TiltShift, Proc::SettingsEffectTiltShiftQEM>(
+        Id::TiltShift, [](auto & settings, TiltShift const & effect) {
+            settings.SetParams(effect.smns, effect.intensity);
+            settings.SetUpperLine(effect.a1, effect.b1, effect.c1);
+            settings.SetLowerLine(effect.a2, effect.b2, effect.c2);
+        });
+
+    table.add<Sharpen, Proc::SettingsEffectSharpen>(
+        Id::Sharpen, [](auto & settings, Sharpen const & effect) { settings.SetLevel(effect.intensity); });
 }
 
 } // namespace Effect::Factory

@@ -1,16 +1,22 @@
 #include <collection/Effects/Conversions.h>
+#include <effects/CleanUp.h>
+#include <effects/Identity.h>
+#include <Settings/SettingsAudio.h>
 
 namespace Effect::Factory {
 
-void fill(Proc::SettingsAudioNoiseSuppress & settings, AudioNoiseSuppress const & effect, AudioParams const &)
+void addCleanUp(Conversions & table)
 {
-    // Truncated, not rounded: 1 and 2 per cent are no suppression at all. No percentage leaves the range.
-    settings.SetLevel(static_cast<int>(0.5 - 0.6 * effect.levelPercent));
-}
+    table.add<AudioNoiseSuppress, Proc::SettingsAudioNoiseSuppress>(
+        Id::NoiseSuppress,
+        [](auto & settings, AudioNoiseSuppress const & effect) {
+            // Truncated, not rounded: 1 and 2 per cent are no suppression at all. No percentage leaves the range.
+            settings.SetLevel(static_cast<int>(0.5 - 0.6 * effect.levelPercent));
+        },
+        Stage::audio, Proc::ImplNames::SPEEX);
 
-void fill(Proc::SettingsFilterResample & settings, AudioMonoChannel const &, AudioParams const &)
-{
-    settings.channelCount = 1;
+    table.add<AudioMonoChannel, Proc::SettingsFilterResample>(
+        Id::AudioMonoChannel, [](auto & settings, AudioMonoChannel const &) { settings.channelCount = 1; });
 }
 
 } // namespace Effect::Factory

@@ -1,20 +1,12 @@
-#include <collection/Effects/Conversions.h>
-
 #include <cmath>
 
-#include <ConfInt/ImplNames.h>
+#include <collection/Effects/Conversions.h>
 #include <EditorModel/Fuzzy.h>
+#include <effects/ColorCorrection.h>
+#include <effects/Identity.h>
+#include <Settings/SettingsColor.h>
 
 namespace Effect::Factory {
-
-void fill(Proc::SettingsEffectAutoWhiteBalance & settings, WhiteBalance const & effect, VideoParams const &)
-{
-    auto const [red, green, blue] = channels(effect.color);
-    settings.red = red;
-    settings.green = green;
-    settings.blue = blue;
-    settings.alpha = 255; // whatever the effect's alpha
-}
 
 namespace {
 
@@ -85,12 +77,9 @@ std::unique_ptr<Proc::Settings> shadowsAndHighlights(ManualEnhance const & effec
     return settings;
 }
 
-} // namespace
-
-EffectSettings convertManualEnhance(Object const & object, VideoParams const &)
+EffectSettings convertManualEnhance(ManualEnhance const & effect, VideoParams const &)
 {
     static ManualEnhance const atRest;
-    auto const & effect = castTo<ManualEnhance>(object);
     auto const moved = [&](double ManualEnhance::*slider) { return !fuzzyEqual(effect.*slider, atRest.*slider); };
 
     // Sliders at rest must cost the engine nothing: only those that moved become settings.
@@ -108,6 +97,30 @@ EffectSettings convertManualEnhance(Object const & object, VideoParams const &)
     if (moved(&ManualEnhance::highlights) || moved(&ManualEnhance::shadows))
         record.settings.push_back(shadowsAndHighlights(effect));
     return record;
+}
+
+} // namespace
+
+void addColorCorrection(Conversions & table)
+{
+    table.addRecord<ManualEnhance>(Id::ManualEnhance, convertManualEnhance);
+
+    table.add<WhiteBalance, Proc::SettingsEffectAutoWhiteBalance>(
+        Id::WhiteBalance,
+        [](auto & settings, WhiteBalance const & effect) {
+            auto const [red, green, blue] = channels(effect.color);
+            settings.red = red;
+            settings.green = green;
+            settings.blue = blue;
+            settings.alpha = 255; // whatever the effect's alpha
+        },
+        Stage::oneButton);
+
+    table.addBare<AutoContrast, Proc::SettingsEffectAutoContrast>(Id::AutoContrast, Stage::oneButton);
+
+    table.addBare<AutoSaturation, Proc::SettingsEffectSaturation>(Id::AutoSaturation, Stage::oneButton);
+
+    table.addBare<MagicEnhance, Proc::SettingsEffectMagicEnhance2>(Id::MagicEnhance, Stage::oneButton);
 }
 
 } // namespace Effect::Factory

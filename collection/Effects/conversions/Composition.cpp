@@ -1,11 +1,13 @@
-#include <collection/Effects/Conversions.h>
-
 #include <algorithm>
 #include <array>
 #include <cmath>
 #include <cstddef>
 
-#include <ConfInt/ImplNames.h>
+#include <collection/Effects/Conversions.h>
+#include <effects/Composition.h>
+#include <effects/Identity.h>
+#include <Settings/SettingsComposition.h>
+#include <Settings/SettingsTransform.h>
 
 #include <QRectF>
 #include <QTransform>
@@ -51,63 +53,8 @@ double overhang(double distance)
     return std::abs(std::min(distance, 0.0));
 }
 
-} // namespace
-
-void fill(Proc::SettingsEffectSubFrame & settings, SideBySide const & effect, VideoParams const &)
+EffectSettings convertPictureInPicture(PictureInPicture const & effect, VideoParams const &)
 {
-    QRectF const picture(0, 0, 1, 1);
-    QRectF const mapped = place(effect.transformSrc);
-    QRectF const source = mapped & picture;
-
-    // What the source loses at the picture's edges the target gives up in proportion, so that the two keep
-    // corresponding. A source without a size loses no definite share: its target is not a number.
-    QRectF target = place(effect.transformDst);
-    double const left = overhang(mapped.left()) / mapped.width();
-    double const top = overhang(mapped.top()) / mapped.height();
-    double const right = overhang(1 - mapped.right()) / mapped.width();
-    double const bottom = overhang(1 - mapped.bottom()) / mapped.height();
-    target.adjust(target.width() * left, target.height() * top, -(target.width() * right), -(target.height() * bottom));
-    target &= picture;
-
-    settings.srcLeft = source.left();
-    settings.srcTop = source.top();
-    settings.srcRight = source.right();
-    settings.srcBottom = source.bottom();
-    settings.dstLeft = target.left();
-    settings.dstTop = target.top();
-    settings.dstRight = target.right();
-    settings.dstBottom = target.bottom();
-}
-
-void fill(Proc::SettingsEffectOpacity & settings, Opacity const & effect, VideoParams const &)
-{
-    settings.opacity = effect.opacity;
-}
-
-void fill(Proc::SettingsEffectChromakey & settings, ChromaKey const & effect, VideoParams const &)
-{
-    settings.SetParams(static_cast<double>(effect.hueTolerance), static_cast<double>(effect.noiseLevel) * 0.00390625,
-        static_cast<double>(effect.harshness) / 100.0, static_cast<double>(effect.transparency) / 100.0);
-    auto const [red, green, blue] = channels(effect.color);
-    settings.red = red;
-    settings.green = green;
-    settings.blue = blue;
-}
-
-void fill(Proc::SettingsEffectColorBlender & settings, Overlay const & effect, VideoParams const &)
-{
-    fillBlending(settings, effect);
-}
-
-void fill(Proc::SettingsEffectColorBlender & settings, ColorBlending const & effect, VideoParams const &)
-{
-    fillBlending(settings, effect);
-    settings.SetBaseColor(Proc::ColorF{0, 0, 0, 1});
-}
-
-EffectSettings convertPictureInPicture(Object const & object, VideoParams const &)
-{
-    auto const & effect = castTo<PictureInPicture>(object);
     // A sub-frame that was told nothing shows the whole picture in the whole frame.
     if (effect.transform == Types::Transform())
         return makeEffectSettings(
@@ -116,6 +63,64 @@ EffectSettings convertPictureInPicture(Object const & object, VideoParams const 
     settings->mode = Proc::SettingsEffectTransform::Mode::Place;
     settings->matrix = effect.transform.toMatrix3x3();
     return makeEffectSettings(std::move(settings), Stage::video, Proc::ImplNames::DEFAULT);
+}
+
+} // namespace
+
+void addComposition(Conversions & table)
+{
+    table.addRecord<PictureInPicture>(Id::PictureInPicture, convertPictureInPicture);
+
+    table.add<SideBySide, Proc::SettingsEffectSubFrame>(Id::SideBySide, [](auto & settings, SideBySide const & effect) {
+        QRectF const picture(0, 0, 1, 1);
+        QRectF const mapped = place(effect.transformSrc);
+        QRectF const source = mapped & picture;
+
+        // What the source loses at the picture's edges the target gives up in proportion, so that the two keep
+        // corresponding. A source without a size loses no definite share: its target is not a number.
+        QRectF target = place(effect.transformDst);
+        double const left = overhang(mapped.left()) / mapped.width();
+        double const top = overhang(mapped.top()) / mapped.height();
+        double const right = overhang(1 - mapped.right()) / mapped.width();
+        double const bottom = overhang(1 - mapped.bottom()) / mapped.height();
+        target.adjust(
+            target.width() * left, target.height() * top, -(target.width() * right), -(target.height() * bottom));
+        target &= picture;
+
+        settings.srcLeft = source.left();
+        settings.srcTop = source.top();
+        settings.srcRight = source.right();
+        settings.srcBottom = source.bottom();
+        settings.dstLeft = target.left();
+        settings.dstTop = target.top();
+        settings.dstRight = target.right();
+        settings.dstBottom = target.bottom();
+    });
+
+    table.add<Opacity, Proc::SettingsEffectOpacity>(
+        Id::Opacity, [](auto & settings, Opacity const & effect) { settings.opacity = effect.opacity; });
+
+    table.add<ChromaKey, Proc::SettingsEffectChromakey>(Id::ChromaKey, [](auto & settings, ChromaKey const & effect) {
+        settings.SetParams(static_cast<double>(effect.hueTolerance),
+            static_cast<double>(effect.noiseLevel) * 0.00390625, static_cast<double>(effect.harshness) / 100.0,
+            static_cast<double>(effect.transparency) / 100.0);
+        auto const [red, green, blue] = channels(effect.color);
+        settings.red = red;
+        settings.green = green;
+        settings.blue = blue;
+    });
+
+    table.add<Overlay, Proc::SettingsEffectColorBlender>(
+        Id::Overlay, [](auto & settings, Overlay const & effect) { fillBlending(settings, effect); });
+
+    table.add<ColorBlending, Proc::SettingsEffectColorBlender>(
+        Id::ColorBlending, [](auto & settings, ColorBlending const & effect) {
+            fillBlending(settings, effect);
+            settings.SetBaseColor(Proc::ColorF{0, 0, 0, 1});
+        });
+
+    table.addBare<AlphaInserter, Proc::SettingsEffectAlphaInserter>(
+        Id::AlphaInserter, Stage::openGl, Proc::ImplNames::OGL);
 }
 
 } // namespace Effect::Factory

@@ -1,6 +1,9 @@
-#include <collection/Effects/Conversions.h>
-
 #include <algorithm>
+
+#include <collection/Effects/Conversions.h>
+#include <effects/Dynamics.h>
+#include <effects/Identity.h>
+#include <Settings/SettingsAudio.h>
 
 namespace Effect::Factory {
 
@@ -25,30 +28,33 @@ template <class Settings> void setDetectionAndLink(Settings & settings, AudioDyn
 
 } // namespace
 
-void fill(Proc::SettingsAudioGate & settings, AudioNoiseGate const & effect, AudioParams const &)
+void addDynamics(Conversions & table)
 {
-    settings.SetThreshold(relativeLevel(effect.threshold));
-    setDetectionAndLink(settings, effect);
-    settings.SetLevelIn(relativeLevel(effect.gainIn));
-    settings.SetIntensity(floatIntensity(effect));
-    settings.SetRatio(static_cast<float>(effect.ratio));
-    settings.SetAttackMs(raisedTime(effect.attack));
-    settings.SetReleaseMs(raisedTime(effect.release));
-    settings.SetMakeup(relativeLevel(effect.gainOut));
-    settings.SetKnee(static_cast<float>(effect.knee));
-}
+    table.add<AudioNoiseGate, Proc::SettingsAudioGate>(
+        Id::NoiseGate, [](auto & settings, AudioNoiseGate const & effect) {
+            settings.SetThreshold(relativeLevel(effect.threshold));
+            setDetectionAndLink(settings, effect);
+            settings.SetLevelIn(relativeLevel(effect.gainIn));
+            settings.SetIntensity(floatIntensity(effect));
+            settings.SetRatio(static_cast<float>(effect.ratio));
+            settings.SetAttackMs(raisedTime(effect.attack));
+            settings.SetReleaseMs(raisedTime(effect.release));
+            settings.SetMakeup(relativeLevel(effect.gainOut));
+            settings.SetKnee(static_cast<float>(effect.knee));
+        });
 
-void fill(Proc::SettingsAudioCompressor & settings, AudioCompressor const & effect, AudioParams const &)
-{
-    settings.SetIntensity(floatIntensity(effect));
-    setDetectionAndLink(settings, effect);
-    settings.SetLevelIn(relativeLevel(effect.gainIn));
-    settings.SetThreshold(effect.threshold.toRelativeLevel()); // the one level that the engine takes in full
-    settings.SetRatio(static_cast<float>(effect.ratio));
-    settings.SetAttack(raisedTime(effect.attack));
-    settings.SetRelease(raisedTime(effect.release));
-    settings.SetMakeup(relativeLevel(effect.gainOut));
-    settings.SetKnee(static_cast<float>(effect.knee));
+    table.add<AudioCompressor, Proc::SettingsAudioCompressor>(
+        Id::Compressor, [](auto & settings, AudioCompressor const & effect) {
+            settings.SetIntensity(floatIntensity(effect));
+            setDetectionAndLink(settings, effect);
+            settings.SetLevelIn(relativeLevel(effect.gainIn));
+            settings.SetThreshold(effect.threshold.toRelativeLevel()); // the one level that the engine takes in full
+            settings.SetRatio(static_cast<float>(effect.ratio));
+            settings.SetAttack(raisedTime(effect.attack));
+            settings.SetRelease(raisedTime(effect.release));
+            settings.SetMakeup(relativeLevel(effect.gainOut));
+            settings.SetKnee(static_cast<float>(effect.knee));
+        });
 }
 
 } // namespace Effect::Factory

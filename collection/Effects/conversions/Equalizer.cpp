@@ -1,13 +1,19 @@
 #include <collection/Effects/Conversions.h>
+#include <effects/Equalizer.h>
+#include <effects/Identity.h>
+#include <Settings/SettingsAudio.h>
 
 namespace Effect::Factory {
 
-void fill(Proc::SettingsAudioEqualizer & settings, AudioEqualizer const & effect, AudioParams const &)
+void addEqualizer(Conversions & table)
 {
-    std::vector<Proc::SettingsAudioEqualizer::BandEq> bands;
-    for (auto const & band : effect.multiband)
-        bands.push_back({band.centralFrequency, band.gain});
-    settings.SetMultiband(bands);
+    table.add<AudioEqualizer, Proc::SettingsAudioEqualizer>(
+        Id::AudioEqualizer, [](auto & settings, AudioEqualizer const & effect) {
+            std::vector<Proc::SettingsAudioEqualizer::BandEq> bands;
+            for (auto const & band : effect.multiband)
+                bands.push_back({band.centralFrequency, band.gain});
+            settings.SetMultiband(bands);
+        });
 }
 
 } // namespace Effect::Factory

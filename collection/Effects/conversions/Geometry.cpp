@@ -1,28 +1,29 @@
 #include <collection/Effects/Conversions.h>
-
 #include <ConfInt/Transform2D.h>
+#include <effects/Geometry.h>
+#include <effects/Identity.h>
+#include <Settings/SettingsTransform.h>
 
 namespace Effect::Factory {
 
 using Mode = Proc::SettingsEffectTransform::Mode;
 
-void fill(Proc::SettingsEffectTransform & settings, Crop const & effect, VideoParams const &)
+void addGeometry(Conversions & table)
 {
-    settings.mode = Mode::Crop;
-    settings.matrix = effect.transform.toMatrix3x3();
-}
+    table.add<Crop, Proc::SettingsEffectTransform>(Id::Crop, [](auto & settings, Crop const & effect) {
+        settings.mode = Mode::Crop;
+        settings.matrix = effect.transform.toMatrix3x3();
+    });
 
-void fill(Proc::SettingsEffectTransform & settings, Transpose const & effect, VideoParams const &)
-{
-    // Multiplied first: 90 degrees are then the double nearest a right angle.
-    double const radians = static_cast<double>(effect.angle) * 3.141592653589793 / 180.0;
-    settings.mode = Mode::Rotate;
-    settings.matrix = Quoril::Conf::Transform2D::MakeRotation(radians);
-}
+    table.add<Transpose, Proc::SettingsEffectTransform>(Id::Transpose, [](auto & settings, Transpose const & effect) {
+        // Multiplied first: 90 degrees are then the double nearest a right angle.
+        double const radians = static_cast<double>(effect.angle) * 3.141592653589793 / 180.0;
+        settings.mode = Mode::Rotate;
+        settings.matrix = Quoril::Conf::Transform2D::MakeRotation(radians);
+    });
 
-void fill(Proc::SettingsEffectFixVertVideo & settings, FixVertVideo const &, VideoParams const & params)
-{
-    settings.geometry = params.frameGeometry;
+    table.add<FixVertVideo, Proc::SettingsEffectFixVertVideo>(Id::FixVertVideo,
+        [](auto & settings, FixVertVideo const &, auto const & params) { settings.geometry = params.frameGeometry; });
 }
 
 } // namespace Effect::Factory

@@ -1,10 +1,11 @@
-#include <collection/Effects/Conversions.h>
-#include <collection/Effects/FactoryCaches.h>
-
 #include <optional>
 
+#include <collection/Effects/Conversions.h>
 #include <EditorSettings/Settings.h>
+#include <effects/Light.h>
+#include <effects/PrivateIdentity.h>
 #include <FileSystem/FileSystem.h>
+#include <Settings/SettingsLight.h>
 
 namespace Effect::Factory {
 
@@ -48,45 +49,12 @@ constexpr Flight flights[] = {
 
 } // namespace
 
-void fill(Proc::SettingsEffectFlyingObjects & settings, FlyingObjects const & effect, VideoContext const & context)
-{
-    QLatin1String const image(nearestRow(flights, effect.preset).image);
-    settings.SetImage(
-        context.caches.images.image(FS::joinPath({::Settings::stockFlyingObjectsPath(), image}, QString())));
-    settings.paramsHead = context.frameGeometry;
-    settings.SetIntensity(floatIntensity(effect));
-    if (auto const * flight = knownRow(flights, effect.preset)) {
-        settings.SetObjectsCount(flight->count);
-        settings.SetScale(flight->scale);
-        settings.firstValue = flight->firstValue;
-        settings.secondValue = flight->secondValue;
-        settings.SetMoveDirection(flight->direction);
-        settings.SetMoveSpeed(flight->moveSpeed);
-        settings.SetRotationSpeed(flight->rotationSpeed);
-        settings.SetSwingRotationSpeed(flight->swingSpeed);
-        settings.thirdValue = flight->thirdValue;
-    }
-}
-
 namespace {
 
 // By preset: the engine's number. It knows nothing like 4 and 5.
 constexpr std::optional<std::int32_t> flares[] = {0, 1, 2, 3, std::nullopt, std::nullopt, 4, 5};
 
 } // namespace
-
-void fill(Proc::SettingsEffectLensFlare & settings, LensFlare const & effect, VideoParams const &)
-{
-    settings.SetIntensity(floatIntensity(effect));
-    if (auto const * flare = knownRow(flares, effect.Presets); flare && *flare)
-        settings.preset = static_cast<Proc::SettingsEffectLensFlare::Preset>(**flare);
-}
-
-void fill(Proc::SettingsEffectLightLeaks & settings, LightLeaks const & effect, VideoParams const &)
-{
-    settings.SetIntensity(floatIntensity(effect));
-    settings.preset = static_cast<Proc::SettingsEffectLightLeaks::Preset>(knownValue(effect.Presets, 16));
-}
 
 namespace {
 
@@ -120,16 +88,51 @@ constexpr Vignette vignettes[] = {
 
 } // namespace
 
-void fill(Proc::SettingsEffectVignetteFilter & settings, VignetteFilter const & effect, VideoParams const &)
+void addLight(Conversions & table)
 {
-    if (auto const * vignette = knownRow(vignettes, effect.preset)) {
-        settings.firstMode = vignette->firstMode;
-        settings.secondMode = vignette->secondMode;
-        settings.thirdMode = vignette->thirdMode;
-        settings.SetColor(vignette->red, vignette->green, vignette->blue, vignette->alpha);
-        settings.SetParams(0.5, 0.5, vignette->size, vignette->softness); // around the middle
-    }
-    settings.SetIntensity(floatIntensity(effect));
+    table.add<FlyingObjects, Proc::SettingsEffectFlyingObjects>(
+        Id::FlyingObjects, [](auto & settings, FlyingObjects const & effect, auto const & context) {
+            QLatin1String const image(nearestRow(flights, effect.preset).image);
+            settings.SetImage(
+                context.caches.images.image(FS::joinPath({::Settings::stockFlyingObjectsPath(), image}, QString())));
+            settings.paramsHead = context.frameGeometry;
+            settings.SetIntensity(floatIntensity(effect));
+            if (auto const * flight = knownRow(flights, effect.preset)) {
+                settings.SetObjectsCount(flight->count);
+                settings.SetScale(flight->scale);
+                settings.firstValue = flight->firstValue;
+                settings.secondValue = flight->secondValue;
+                settings.SetMoveDirection(flight->direction);
+                settings.SetMoveSpeed(flight->moveSpeed);
+                settings.SetRotationSpeed(flight->rotationSpeed);
+                settings.SetSwingRotationSpeed(flight->swingSpeed);
+                settings.thirdValue = flight->thirdValue;
+            }
+        });
+
+    table.add<LensFlare, Proc::SettingsEffectLensFlare>(Id::LensFlare, [](auto & settings, LensFlare const & effect) {
+        settings.SetIntensity(floatIntensity(effect));
+        if (auto const * flare = knownRow(flares, effect.Presets); flare && *flare)
+            settings.preset = static_cast<Proc::SettingsEffectLensFlare::Preset>(**flare);
+    });
+
+    table.add<LightLeaks, Proc::SettingsEffectLightLeaks>(
+        Id::LightLeaks, [](auto & settings, LightLeaks const & effect) {
+            settings.SetIntensity(floatIntensity(effect));
+            settings.preset = static_cast<Proc::SettingsEffectLightLeaks::Preset>(knownValue(effect.Presets, 16));
+        });
+
+    table.add<VignetteFilter, Proc::SettingsEffectVignetteFilter>(
+        Id::VignetteFilter, [](auto & settings, VignetteFilter const & effect) {
+            if (auto const * vignette = knownRow(vignettes, effect.preset)) {
+                settings.firstMode = vignette->firstMode;
+                settings.secondMode = vignette->secondMode;
+                settings.thirdMode = vignette->thirdMode;
+                settings.SetColor(vignette->red, vignette->green, vignette->blue, vignette->alpha);
+                settings.SetParams(0.5, 0.5, vignette->size, vignette->softness); // around the middle
+            }
+            settings.SetIntensity(floatIntensity(effect));
+        });
 }
 
 } // namespace Effect::Factory

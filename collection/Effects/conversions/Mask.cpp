@@ -1,12 +1,13 @@
-#include <collection/Effects/Conversions.h>
-
 #include <optional>
 #include <utility>
 #include <vector>
 
-#include <ConfInt/ImplNames.h>
+#include <collection/Effects/Conversions.h>
 #include <EditorModel/MotionTracking.h>
 #include <EditorUtil/MotionTrackingSmoothPath.h>
+#include <effects/Identity.h>
+#include <effects/Mask.h>
+#include <Settings/SettingsMask.h>
 #include <MTime/MTime.h>
 
 #include <QPointF>
@@ -156,17 +157,21 @@ std::unique_ptr<Proc::Settings> conceal(FrameConceal const & frame, std::int64_t
     return settings;
 }
 
-} // namespace
-
-EffectSettings convertMask(Object const & object, VideoParams const & params)
+EffectSettings convertMask(Mask const & effect, VideoParams const & params)
 {
-    auto const & effect = castTo<Mask>(object);
     EffectSettings record{{}, Stage::video, Proc::ImplNames::DEFAULT};
     if (!effect.highlightFrames.empty())
         record.settings.push_back(highlight(effect, params.duration));
     for (FrameConceal const & frame : effect.concealFrames)
         record.settings.push_back(conceal(frame, params.duration));
     return record;
+}
+
+} // namespace
+
+void addMask(Conversions & table)
+{
+    table.addRecord<Mask>(Id::Mask, convertMask);
 }
 
 } // namespace Effect::Factory

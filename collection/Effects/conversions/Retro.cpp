@@ -1,55 +1,57 @@
 #include <collection/Effects/Conversions.h>
+#include <effects/PrivateIdentity.h>
+#include <effects/Retro.h>
+#include <Settings/SettingsRetro.h>
 
 namespace Effect::Factory {
 
-void fill(Proc::SettingsEffectRetroArtefacts & settings, RetroArtefacts const & effect, VideoParams const &)
+void addRetro(Conversions & table)
 {
-    settings.shake = effect.shake;
-    settings.vignetting = effect.vignetting;
-    settings.grain = effect.grain;
-    settings.scratches = effect.scratches;
-    settings.rollerTrack = effect.rollerTrack;
-    settings.SetIntensity(floatIntensity(effect));
-}
+    table.add<RetroArtefacts, Proc::SettingsEffectRetroArtefacts>(
+        Id::RetroArtefacts, [](auto & settings, RetroArtefacts const & effect) {
+            settings.shake = effect.shake;
+            settings.vignetting = effect.vignetting;
+            settings.grain = effect.grain;
+            settings.scratches = effect.scratches;
+            settings.rollerTrack = effect.rollerTrack;
+            settings.SetIntensity(floatIntensity(effect));
+        });
 
-void fill(Proc::SettingsEffectRetroColors & settings, RetroColors const & effect, VideoParams const &)
-{
-    settings.SetIntensity(floatIntensity(effect));
-    copyKnown(effect.type, 4, settings.type);
-}
+    table.add<RetroColors, Proc::SettingsEffectRetroColors>(
+        Id::RetroColors, [](auto & settings, RetroColors const & effect) {
+            settings.SetIntensity(floatIntensity(effect));
+            copyKnown(effect.type, 4, settings.type);
+        });
 
-void fill(Proc::SettingsEffectVHS & settings, VHS const & effect, VideoParams const &)
-{
-    settings.SetParams(effect.speed, effect.shift, effect.smoothness, effect.relief);
-    settings.SetIntensity(floatIntensity(effect));
-}
+    table.add<VHS, Proc::SettingsEffectVHS>(Id::VHS, [](auto & settings, VHS const & effect) {
+        settings.SetParams(effect.speed, effect.shift, effect.smoothness, effect.relief);
+        settings.SetIntensity(floatIntensity(effect));
+    });
 
-void fill(Proc::SettingsEffectTelevision70s & settings, Television70s const & effect, VideoParams const &)
-{
-    settings.SetIntensity(floatIntensity(effect));
-    settings.SetStripesWidth(static_cast<float>(effect.stripesWidth));
-}
+    table.add<Television70s, Proc::SettingsEffectTelevision70s>(
+        Id::Television70s, [](auto & settings, Television70s const & effect) {
+            settings.SetIntensity(floatIntensity(effect));
+            settings.SetStripesWidth(static_cast<float>(effect.stripesWidth));
+        });
 
-void fill(Proc::SettingsEffectGlitchMpeg & settings, GlitchMpeg const & effect, VideoParams const &)
-{
-    settings.SetIntensity(floatIntensity(effect));
-}
+    table.add<GlitchMpeg, Proc::SettingsEffectGlitchMpeg>(Id::GlitchMpeg,
+        [](auto & settings, GlitchMpeg const & effect) { settings.SetIntensity(floatIntensity(effect)); });
 
-void fill(Proc::SettingsEffectGlitchSecurityCam & settings, GlitchSecurityCam const & effect, VideoParams const &)
-{
-    settings.SetIntensity(floatIntensity(effect));
-    settings.SetConstDistortion(static_cast<float>(effect.constDistortion));
-    settings.SetRandDistortion(static_cast<float>(effect.randDistortion));
-}
+    table.add<GlitchSecurityCam, Proc::SettingsEffectGlitchSecurityCam>(
+        Id::GlitchSecurityCam, [](auto & settings, GlitchSecurityCam const & effect) {
+            settings.SetIntensity(floatIntensity(effect));
+            settings.SetConstDistortion(static_cast<float>(effect.constDistortion));
+            settings.SetRandDistortion(static_cast<float>(effect.randDistortion));
+        });
 
-void fill(Proc::SettingsEffectFilmStrip & settings, FilmStrip const & effect, VideoParams const &)
-{
-    using Type = Proc::SettingsEffectFilmStrip::Type;
-    // The engine counts from 1: its 0 is no strip.
-    static constexpr Type strips[] = {Type(1), Type(2), Type(3)};
+    table.add<FilmStrip, Proc::SettingsEffectFilmStrip>(Id::FilmStrip, [](auto & settings, FilmStrip const & effect) {
+        using Type = Proc::SettingsEffectFilmStrip::Type;
+        // The engine counts from 1: its 0 is no strip.
+        static constexpr Type strips[] = {Type(1), Type(2), Type(3)};
 
-    if (auto const * const strip = knownRow(strips, effect.type))
-        settings.SetType(*strip);
+        if (auto const * const strip = knownRow(strips, effect.type))
+            settings.SetType(*strip);
+    });
 }
 
 } // namespace Effect::Factory

@@ -1,11 +1,12 @@
-#include <collection/Effects/Conversions.h>
-
 #include <optional>
 
-#include <collection/Effects/FactoryCaches.h>
+#include <collection/Effects/Conversions.h>
 #include <EditorExternalResourses/ShaderISF.h>
 #include <EditorModel/Resource.h>
+#include <effects/Identity.h>
+#include <effects/Shaders.h>
 #include <FileSystem/FileSystem.h>
+#include <Settings/SettingsShader.h>
 #include <utils/LutUtils.h>
 
 namespace Effect::Factory {
@@ -50,49 +51,54 @@ ImageHolder::Image auxImage(QString const & name)
 
 } // namespace
 
-void fill(Proc::SettingsEffectTemplateQES & settings, ExternalShader const & effect, VideoParams const &)
+void addShaders(Conversions & table)
 {
-    settings.SetVersion(effect.apiVersion);
-    settings.SetIntensity(effect.hasIntensity() ? floatIntensity(effect) : -1.0F);
-    settings.SetShader(shaderText(effect.shaderResource));
-    // One that cannot be had is told as null.
-    if (!effect.auxImageResource.isEmpty())
-        settings.SetAuxImage(auxImage(effect.auxImageResource));
-}
+    table.add<ExternalShader, Proc::SettingsEffectTemplateQES>(
+        Id::ExternalShader,
+        [](auto & settings, ExternalShader const & effect) {
+            settings.SetVersion(effect.apiVersion);
+            settings.SetIntensity(effect.hasIntensity() ? floatIntensity(effect) : -1.0F);
+            settings.SetShader(shaderText(effect.shaderResource));
+            // One that cannot be had is told as null.
+            if (!effect.auxImageResource.isEmpty())
+                settings.SetAuxImage(auxImage(effect.auxImageResource));
+        },
+        Stage::openGl, Proc::ImplNames::OGL);
 
-void fill(Proc::SettingsEffectLUT & settings, Lut const & effect, VideoContext const & context)
-{
-    QString const & name = effect.resource.name();
-    if (name.isEmpty())
-        return;
-    auto & tables = context.caches.lutTables;
-    auto found = tables.constFind(name);
-    if (found == tables.constEnd()) {
-        // A file that may yet come is asked for again; what is no table need not be read twice.
-        auto const text = resourceText(name);
-        if (!text)
+    table.add<Lut, Proc::SettingsEffectLUT>(Id::Lut, [](auto & settings, Lut const & effect, auto const & context) {
+        QString const & name = effect.resource.name();
+        if (name.isEmpty())
             return;
-        found = tables.insert(name, Utils::parseLutEffect(*text, nullptr));
-    }
-    if (!*found)
-        return;
-    settings.intensity = floatIntensity(effect);
-    settings.SetTable(*found);
-    settings.SetMode(Proc::SettingsEffectLUT::InterpolateMode::Linear);
-}
+        auto & tables = context.caches.lutTables;
+        auto found = tables.constFind(name);
+        if (found == tables.constEnd()) {
+            // A file that may yet come is asked for again; what is no table need not be read twice.
+            auto const text = resourceText(name);
+            if (!text)
+                return;
+            found = tables.insert(name, Utils::parseLutEffect(*text, nullptr));
+        }
+        if (!*found)
+            return;
+        settings.intensity = floatIntensity(effect);
+        settings.SetTable(*found);
+        settings.SetMode(Proc::SettingsEffectLUT::InterpolateMode::Linear);
+    });
 
-void fill(Proc::SettingsEffectISF & settings, ShaderISF const & effect, VideoContext const & context)
-{
-    QString const & name = effect.resource.name();
-    auto & shaders = context.caches.isfSettings;
-    auto found = shaders.constFind(name);
-    if (found == shaders.constEnd())
-        found = shaders.insert(name, External::ShaderISF::loadEffectISF(name, FS::absolutePath(effect.resourcePath)));
-    External::ShaderISF::ISFSettings const & shader = **found;
-    settings.SetConfig(effect.inputs.empty() ? shader.config : effect.inputs);
-    settings.SetPixelShader(shader.pixelShader);
-    if (!shader.vertexShader.empty())
-        settings.SetVertexShader(shader.vertexShader);
+    table.add<ShaderISF, Proc::SettingsEffectISF>(
+        Id::ShaderISF, [](auto & settings, ShaderISF const & effect, auto const & context) {
+            QString const & name = effect.resource.name();
+            auto & shaders = context.caches.isfSettings;
+            auto found = shaders.constFind(name);
+            if (found == shaders.constEnd())
+                found = shaders.insert(
+                    name, External::ShaderISF::loadEffectISF(name, FS::absolutePath(effect.resourcePath)));
+            External::ShaderISF::ISFSettings const & shader = **found;
+            settings.SetConfig(effect.inputs.empty() ? shader.config : effect.inputs);
+            settings.SetPixelShader(shader.pixelShader);
+            if (!shader.vertexShader.empty())
+                settings.SetVertexShader(shader.vertexShader);
+        });
 }
 
 } // namespace Effect::Factory

@@ -1,6 +1,9 @@
-#include <collection/Effects/Conversions.h>
-
 #include <cmath>
+
+#include <collection/Effects/Conversions.h>
+#include <effects/PrivateIdentity.h>
+#include <effects/Voice.h>
+#include <Settings/SettingsAudio.h>
 
 namespace Effect::Factory {
 
@@ -46,57 +49,55 @@ std::int32_t wrappingSum(std::int32_t a, std::int32_t b)
 
 } // namespace
 
-void fill(Proc::SettingsAudioEqualizer & settings, AudioPhone const & effect, AudioParams const &)
+void addVoice(Conversions & table)
 {
-    settings.SetMultiband(bandPass(effect));
-    settings.SetIntensity(floatIntensity(effect));
-}
+    table.add<AudioPhone, Proc::SettingsAudioEqualizer>(Id::AudioPhone, [](auto & settings, AudioPhone const & effect) {
+        settings.SetMultiband(bandPass(effect));
+        settings.SetIntensity(floatIntensity(effect));
+    });
 
-void fill(Proc::SettingsAudioEqualizer & settings, AudioMuffle const & effect, AudioParams const &)
-{
-    double const peak = std::log2(effect.mean);
-    double const width = 2 * (effect.dispersion * effect.dispersion);
-    double const height = wrappingSum(effect.gainUp, effect.gainDown);
-    settings.SetMultiband(octaves([&](int exponent) {
-        double const distance = peak - exponent;
-        return height * std::exp(-(distance * distance) / width) - effect.gainDown;
-    }));
-    settings.SetIntensity(floatIntensity(effect));
-}
+    table.add<AudioMuffle, Proc::SettingsAudioEqualizer>(
+        Id::AudioMuffle, [](auto & settings, AudioMuffle const & effect) {
+            double const peak = std::log2(effect.mean);
+            double const width = 2 * (effect.dispersion * effect.dispersion);
+            double const height = wrappingSum(effect.gainUp, effect.gainDown);
+            settings.SetMultiband(octaves([&](int exponent) {
+                double const distance = peak - exponent;
+                return height * std::exp(-(distance * distance) / width) - effect.gainDown;
+            }));
+            settings.SetIntensity(floatIntensity(effect));
+        });
 
-void fill(Proc::SettingsAudioRadio & settings, AudioRadio const & effect, AudioParams const &)
-{
-    Proc::SettingsAudioEqualizer equalizer;
-    equalizer.SetMultiband(bandPass(effect));
-    settings.SetEqSettings(equalizer);
-    settings.SetCracklePrecision(effect.cracklePrecision);
-    settings.SetNoiseLevel(effect.noiseLevel);
-    settings.SetIntensity(floatIntensity(effect));
-}
+    table.add<AudioRadio, Proc::SettingsAudioRadio>(Id::AudioRadio, [](auto & settings, AudioRadio const & effect) {
+        Proc::SettingsAudioEqualizer equalizer;
+        equalizer.SetMultiband(bandPass(effect));
+        settings.SetEqSettings(equalizer);
+        settings.SetCracklePrecision(effect.cracklePrecision);
+        settings.SetNoiseLevel(effect.noiseLevel);
+        settings.SetIntensity(floatIntensity(effect));
+    });
 
-void fill(Proc::SettingsAudioEcho & settings, AudioEcho const & effect, AudioParams const &)
-{
-    std::vector<Proc::SettingsAudioEcho::Echo> echos;
-    for (auto const & echo : effect.echos)
-        echos.push_back({echo.delay, echo.decay});
-    settings.SetGainInOut(effect.gainIn, effect.gainOut);
-    settings.SetEchos(echos);
-    settings.SetIntensity(floatIntensity(effect));
-}
+    table.add<AudioEcho, Proc::SettingsAudioEcho>(Id::AudioEcho, [](auto & settings, AudioEcho const & effect) {
+        std::vector<Proc::SettingsAudioEcho::Echo> echos;
+        for (auto const & echo : effect.echos)
+            echos.push_back({echo.delay, echo.decay});
+        settings.SetGainInOut(effect.gainIn, effect.gainOut);
+        settings.SetEchos(echos);
+        settings.SetIntensity(floatIntensity(effect));
+    });
 
-void fill(Proc::SettingsAudioPitch & settings, AudioPitch const & effect, AudioParams const &)
-{
-    settings.SetPitch(effect.pitch);
-    settings.SetIntensity(floatIntensity(effect));
-}
+    table.add<AudioPitch, Proc::SettingsAudioPitch>(Id::AudioPitch, [](auto & settings, AudioPitch const & effect) {
+        settings.SetPitch(effect.pitch);
+        settings.SetIntensity(floatIntensity(effect));
+    });
 
-void fill(Proc::SettingsAudioRobot & settings, AudioRobot const & effect, AudioParams const &)
-{
-    settings.SetLevel(effect.level);
-    Proc::SettingsAudioPitch pitch;
-    pitch.SetPitch(effect.pitch);
-    settings.SetPitchSettings(pitch);
-    settings.SetIntensity(floatIntensity(effect));
+    table.add<AudioRobot, Proc::SettingsAudioRobot>(Id::AudioRobot, [](auto & settings, AudioRobot const & effect) {
+        settings.SetLevel(effect.level);
+        Proc::SettingsAudioPitch pitch;
+        pitch.SetPitch(effect.pitch);
+        settings.SetPitchSettings(pitch);
+        settings.SetIntensity(floatIntensity(effect));
+    });
 }
 
 } // namespace Effect::Factory

@@ -7,6 +7,7 @@
 #include <type_traits>
 #include <unordered_map>
 
+#include <EditorSerialization/Layout.h>
 #include <EditorSerialization/Registry.h>
 
 #include "Instantiate.h"
@@ -114,5 +115,15 @@ template <class Archive> void Object::serialize(Archive & archive)
 }
 
 EDITORMODEL_ARCHIVED(Object)
+
+namespace {
+
+constexpr char const * objectKeys[] = {"tag", "id", "groupId", "intensity", "resource", "resourcePath", "range"};
+
+} // namespace
+
+Serialize::Layout const Object::s_layout =
+    Serialize::makeLayout<Object, objectKeys, &Object::tag, &Object::id, &Object::groupId, &Object::intensity,
+        &Object::resource, &Object::resourcePath, &Object::range>("Effect::Object", true);
 
 } // namespace Effect

@@ -5,6 +5,8 @@
 #include <shared_mutex>
 #include <tuple>
 
+#include <EditorSerialization/Layout.h>
+
 #include "Instantiate.h"
 #include "PlainForms.h"
 #include "RegularFile.h"
@@ -97,6 +99,15 @@ template <class Archive> void ID::serialize(Archive & archive)
 {
     Serialize::fields(archive, field("name", m_name), field("type", m_type));
 }
+
+namespace {
+
+constexpr char const * idKeys[] = {"name", "type"};
+
+} // namespace
+
+Serialize::Layout const ID::s_layout =
+    Serialize::makeLayout<ID, idKeys, &ID::m_name, &ID::m_type>("Resource::ID", false);
 
 Timing::Timing() = default;
 

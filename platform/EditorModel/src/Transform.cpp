@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include <EditorModel/Fuzzy.h>
+#include <EditorSerialization/Layout.h>
 
 #include "Instantiate.h"
 #include "PlainForms.h"
@@ -58,5 +59,17 @@ template <class Archive> void Range::serialize(Archive & archive)
 
 EDITORMODEL_ARCHIVED(Transform)
 EDITORMODEL_ARCHIVED(Range)
+
+namespace {
+
+constexpr char const * transformKeys[] = {"m"};
+constexpr char const * rangeKeys[] = {"start", "length"};
+
+} // namespace
+
+Serialize::Layout const Transform::s_layout =
+    Serialize::makeLayout<Transform, transformKeys, &Transform::m_entries>("Types::Transform", false);
+Serialize::Layout const Range::s_layout =
+    Serialize::makeLayout<Range, rangeKeys, &Range::m_start, &Range::m_length>("Types::Range", false);
 
 } // namespace Types

@@ -2,8 +2,10 @@
 #include <memory>
 #include <string>
 
-#include <collection/Effects/Conversions.h>
+#include <collection/Effects/Stages.h>
 #include <effects/Blur.h>
+#include <effects/PrivateIdentity.h>
+#include <Settings/SettingsBlur.h>
 #include <support/Conversion.h>
 #include <support/Filter.h>
 #include <support/Images.h>

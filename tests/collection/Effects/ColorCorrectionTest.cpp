@@ -1,8 +1,10 @@
 #include <cmath>
 #include <limits>
 
-#include <collection/Effects/Conversions.h>
+#include <collection/Effects/Stages.h>
 #include <effects/ColorCorrection.h>
+#include <effects/Identity.h>
+#include <Settings/SettingsColor.h>
 #include <support/Conversion.h>
 
 #include <gmock/gmock.h>

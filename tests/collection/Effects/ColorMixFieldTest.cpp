@@ -6,7 +6,6 @@
 #include <EditorModel/CollectionProvider.h>
 #include <EditorModel/EffectArchive.h>
 #include <EditorModel/EffectFactory.h>
-#include <effects/archive/Base.h>
 #include <effects/Effects.h>
 #include <serialization/Register.h>
 #include <Settings/Settings.h>
@@ -35,14 +34,19 @@ struct EFFECTS_API ColorMixField : VideoEffect
     double contrast = 0.5;
     std::uint32_t color = 0x80FF0102;
     QString note; // what the library knows nothing of
-};
 
-EFFECT_FIELDS(ColorMixField, VideoEffect, threshold, contrast, color, note)
+    static constexpr auto describe()
+    {
+        return description("Mixes a field of one colour in.", parameter("threshold", &ColorMixField::threshold),
+            parameter("contrast", &ColorMixField::contrast), parameter("color", &ColorMixField::color).color(),
+            parameter("note", &ColorMixField::note));
+    }
+};
 
 } // namespace Effect
 
 EFFECT_KEY(ColorMixField)
-EFFECT_REGISTER(ColorMixField)
+EFFECT_REGISTER(ColorMixField, VideoEffect)
 
 namespace {
 

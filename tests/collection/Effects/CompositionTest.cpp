@@ -4,8 +4,11 @@
 #include <limits>
 #include <string>
 
-#include <collection/Effects/Conversions.h>
+#include <collection/Effects/Stages.h>
 #include <effects/Composition.h>
+#include <effects/Identity.h>
+#include <Settings/SettingsComposition.h>
+#include <Settings/SettingsTransform.h>
 #include <support/Conversion.h>
 
 #include <gmock/gmock.h>

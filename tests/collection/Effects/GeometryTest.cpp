@@ -1,8 +1,10 @@
 #include <cmath>
 #include <limits>
 
-#include <collection/Effects/Conversions.h>
+#include <collection/Effects/Stages.h>
 #include <effects/Geometry.h>
+#include <effects/Identity.h>
+#include <Settings/SettingsTransform.h>
 #include <support/Conversion.h>
 
 #include <gmock/gmock.h>

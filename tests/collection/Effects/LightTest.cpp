@@ -3,9 +3,11 @@
 #include <memory>
 #include <string>
 
-#include <collection/Effects/Conversions.h>
 #include <collection/Effects/FactoryCaches.h>
+#include <collection/Effects/Stages.h>
 #include <effects/Light.h>
+#include <effects/PrivateIdentity.h>
+#include <Settings/SettingsLight.h>
 #include <Settings/Value.h>
 #include <support/Conversion.h>
 #include <support/Filter.h>

@@ -4,8 +4,10 @@
 #include <string>
 #include <vector>
 
-#include <collection/Effects/Conversions.h>
+#include <collection/Effects/Stages.h>
+#include <effects/Identity.h>
 #include <effects/Mask.h>
+#include <Settings/SettingsMask.h>
 #include <support/Conversion.h>
 #include <support/Documents.h>
 #include <support/Tracks.h>

@@ -1,5 +1,7 @@
-#include <collection/Effects/Conversions.h>
+#include <collection/Effects/Stages.h>
 #include <effects/Mirroring.h>
+#include <effects/PrivateIdentity.h>
+#include <Settings/SettingsTransform.h>
 #include <support/Conversion.h>
 #include <support/Documents.h>
 

@@ -2,8 +2,11 @@
 #include <optional>
 #include <string>
 
-#include <collection/Effects/Conversions.h>
+#include <collection/Effects/Stages.h>
+#include <effects/Identity.h>
+#include <effects/Shaders.h>
 #include <ParserLUT/LUTTable.h>
+#include <Settings/SettingsShader.h>
 #include <Settings/Trace.h>
 #include <support/Conversion.h>
 #include <support/Images.h>

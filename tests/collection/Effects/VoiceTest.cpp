@@ -2,8 +2,10 @@
 #include <cmath>
 #include <limits>
 
-#include <collection/Effects/Conversions.h>
+#include <collection/Effects/Stages.h>
+#include <effects/PrivateIdentity.h>
 #include <effects/Voice.h>
+#include <Settings/SettingsAudio.h>
 #include <support/Conversion.h>
 
 #include <gmock/gmock.h>

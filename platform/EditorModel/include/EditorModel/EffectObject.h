@@ -78,6 +78,7 @@ protected:
 private:
     friend Serialize::Access;
     template <class Archive> void serialize(Archive & archive);
+    static Serialize::Layout const s_layout;
 };
 
 } // namespace Effect

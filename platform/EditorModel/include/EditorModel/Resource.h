@@ -61,6 +61,7 @@ public:
 private:
     friend Serialize::Access;
     template <class Archive> void serialize(Archive & archive);
+    static Serialize::Layout const s_layout;
 
     QString m_name{QLatin1String("")};
     Type m_type = Type::None;

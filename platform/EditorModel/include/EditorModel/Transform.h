@@ -53,6 +53,7 @@ public:
 private:
     friend Serialize::Access;
     template <class Archive> void serialize(Archive & archive);
+    static Serialize::Layout const s_layout;
 
     std::array<double, 9> m_entries{1, 0, 0, 0, 1, 0, 0, 0, 1};
 };
@@ -85,6 +86,7 @@ public:
 private:
     friend Serialize::Access;
     template <class Archive> void serialize(Archive & archive);
+    static Serialize::Layout const s_layout;
 
     MTime m_start;
     MTime m_length;

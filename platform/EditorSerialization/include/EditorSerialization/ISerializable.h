@@ -13,6 +13,7 @@ namespace Serialize {
 
 class ISerializer;
 class IDeserializer;
+struct Layout;
 
 /// An object that knows its name in archives and walks the two polymorphic interfaces.
 class EDITORSERIALIZATION_EXPORT ISerializable
@@ -44,6 +45,9 @@ struct Access
     {
         object.serialize(archive);
     }
+
+    /// The class's own table of its fields, see <EditorSerialization/Layout.h>.
+    template <class T> static constexpr Layout const * layout() { return &T::s_layout; }
 
     /// Whether `T` declares a `serialize` of its own. One that it merely inherits would archive the base alone.
     template <class T, class Archive> static constexpr bool hasOwnSerialize()

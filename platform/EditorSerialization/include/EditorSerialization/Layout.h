@@ -1,0 +1,248 @@
+/// @file
+/// The layout of archived classes: which fields a class has, under which keys, in which form, and where they are in an
+/// object. Each class has one constant table, which the compiler makes from the class's description.
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <deque>
+#include <memory>
+#include <optional>
+#include <string>
+#include <type_traits>
+#include <utility>
+
+#include <EditorSerialization/ISerializable.h>
+#include <EditorSerialization/Traversal.h>
+
+#include <QString>
+
+namespace Serialize {
+
+/// How the value of a field is stored in the object.
+enum class Form : std::uint8_t
+{
+    Boolean,
+    Int32, ///< also enumerations
+    UInt32,
+    Int64,
+    Double,
+    Text,           ///< `QString`
+    Bytes,          ///< `std::string`
+    Doubles,        ///< `std::array<double, N>`
+    Record,         ///< an object by value
+    OptionalRecord, ///< `std::optional` of one
+    Records,        ///< `std::deque` of objects by value
+    Objects,        ///< `std::deque` of owning pointers, each to an object of its own class
+};
+
+struct Layout;
+
+/// What can be done with a container whose type is not known: an optional record, a list of records or of pointers.
+/// An operation that a container lacks is null.
+struct ContainerOperations
+{
+    std::size_t (*size)(void const * container);
+    /// Null for an empty slot. @param index  below the size
+    ISerializable * (*at)(void const * container, std::size_t index);
+    void (*clear)(void * container);
+    /// Appends a default record and returns it.
+    ISerializable * (*append)(void * container);
+    /// Appends an object, which the container owns from here on; null appends an empty slot. Returns false, and drops
+    /// the object, where its class does not belong into the container.
+    bool (*adopt)(void * container, std::unique_ptr<ISerializable> object);
+};
+
+/// One field of a class.
+struct FieldLayout
+{
+    char const * key; ///< in the JSON archive and on the interfaces
+    Form form;
+    std::uint8_t count; ///< of the numbers in `Form::Doubles`
+    /// The address of the value in an object of the class; of a record, that of its `ISerializable`.
+    void * (*address)(ISerializable & object);
+    Layout const * record;                           ///< of records, else null; of lists of records, their elements'
+    ContainerOperations const * container = nullptr; ///< of optional records and lists
+};
+
+/// The fields of a class.
+struct Layout
+{
+    char const * name;          ///< archive name
+    bool hasClassInformation;   ///< whether its JSON object has a meta object
+    Layout const * base;        ///< null where the class has none in the archives
+    FieldLayout const * fields; ///< own fields, in the order of the binary archives
+    std::size_t fieldCount;
+};
+
+namespace Detail {
+
+template <class Class, auto Member> void * addressOf(ISerializable & object)
+{
+    auto * const member = &(static_cast<Class &>(object).*Member);
+    if constexpr (std::is_base_of_v<ISerializable, std::remove_pointer_t<decltype(member)>>)
+        return static_cast<ISerializable *>(member);
+    else
+        return member;
+}
+
+template <class Container> struct Operations
+{
+    using Element = typename Container::value_type;
+
+    static Container & cast(void * container) { return *static_cast<Container *>(container); }
+    static Container const & cast(void const * container) { return *static_cast<Container const *>(container); }
+
+    static std::size_t size(void const * container)
+    {
+        if constexpr (IsOptional<Container>::value)
+            return cast(container) ? 1 : 0;
+        else
+            return cast(container).size();
+    }
+    static ISerializable * at(void const * container, [[maybe_unused]] std::size_t index)
+    {
+        // Whoever may change the object asks through a container that may be changed.
+        auto & object = const_cast<Container &>(cast(container));
+        if constexpr (IsOptional<Container>::value)
+            return &*object;
+        else if constexpr (IsOwningPointer<Element>::value)
+            return const_cast<std::remove_const_t<typename Element::element_type> *>(object[index].get());
+        else
+            return &object[index];
+    }
+    static void clear(void * container)
+    {
+        if constexpr (IsOptional<Container>::value)
+            cast(container).reset();
+        else
+            cast(container).clear();
+    }
+    static ISerializable * append(void * container)
+    {
+        if constexpr (IsOptional<Container>::value)
+            return &cast(container).emplace();
+        else
+            return &cast(container).emplace_back();
+    }
+    static bool adopt(void * container, std::unique_ptr<ISerializable> object)
+    {
+        using Owned = typename Element::element_type;
+        auto * const cast = dynamic_cast<Owned *>(object.get());
+        if (object && !cast)
+            return false;
+        object.release();
+        Operations::cast(container).emplace_back(cast);
+        return true;
+    }
+
+    static constexpr ContainerOperations make()
+    {
+        if constexpr (IsOwningPointer<Element>::value)
+            return {size, at, clear, nullptr, adopt};
+        else
+            return {size, at, clear, append, nullptr};
+    }
+};
+
+template <class Container> inline constexpr ContainerOperations operations = Operations<Container>::make();
+
+template <class T> constexpr bool isPlain = !std::is_void_v<typename PlainForm<T>::Type>;
+
+template <class T> constexpr Form formOf()
+{
+    if constexpr (isPlain<T>) {
+        // The tables read and write such a value as its plain form.
+        static_assert(std::is_trivially_copyable_v<T> && sizeof(T) == sizeof(typename PlainForm<T>::Type));
+        return formOf<typename PlainForm<T>::Type>();
+    } else if constexpr (std::is_same_v<T, bool>) {
+        return Form::Boolean;
+    } else if constexpr (std::is_enum_v<T>) {
+        static_assert(std::is_same_v<std::underlying_type_t<T>, std::int32_t>, "archived as 32 bits with a sign");
+        return Form::Int32;
+    } else if constexpr (std::is_same_v<T, std::int32_t>) {
+        return Form::Int32;
+    } else if constexpr (std::is_same_v<T, std::uint32_t>) {
+        return Form::UInt32;
+    } else if constexpr (std::is_same_v<T, std::int64_t>) {
+        return Form::Int64;
+    } else if constexpr (std::is_same_v<T, double>) {
+        return Form::Double;
+    } else if constexpr (std::is_same_v<T, QString>) {
+        return Form::Text;
+    } else if constexpr (std::is_same_v<T, std::string>) {
+        return Form::Bytes;
+    } else if constexpr (IsArray<T>::value) {
+        return Form::Doubles;
+    } else if constexpr (IsOptional<T>::value) {
+        return Form::OptionalRecord;
+    } else if constexpr (IsDeque<T>::value) {
+        return IsOwningPointer<typename T::value_type>::value ? Form::Objects : Form::Records;
+    } else {
+        static_assert(std::is_base_of_v<ISerializable, T>, "no archive has a form for this type");
+        return Form::Record;
+    }
+}
+
+template <class T> constexpr Layout const * recordOf()
+{
+    if constexpr (formOf<T>() == Form::Record)
+        return Access::layout<T>();
+    else if constexpr (formOf<T>() == Form::OptionalRecord || formOf<T>() == Form::Records)
+        return Access::layout<typename T::value_type>();
+    else
+        return nullptr;
+}
+
+template <class T> constexpr std::uint8_t numbersIn()
+{
+    if constexpr (IsArray<T>::value) {
+        static_assert(std::is_same_v<typename T::value_type, double>);
+        return std::tuple_size_v<T>;
+    } else {
+        return 0;
+    }
+}
+
+template <class T> constexpr ContainerOperations const * operationsOf()
+{
+    if constexpr (IsOptional<T>::value || IsDeque<T>::value)
+        return &operations<T>;
+    else
+        return nullptr;
+}
+
+} // namespace Detail
+
+/// The row of a member of `Class`, which may be one that it inherits: `layoutOf<Crop, &Crop::transform>("transform")`.
+template <class Class, auto Member> constexpr FieldLayout layoutOf(char const * key)
+{
+    using Value = std::remove_reference_t<decltype(std::declval<Class &>().*Member)>;
+    return {key, Detail::formOf<Value>(), Detail::numbersIn<Value>(), &Detail::addressOf<Class, Member>,
+        Detail::recordOf<Value>(), Detail::operationsOf<Value>()};
+}
+
+namespace Detail {
+
+template <class Class, auto const & keys, auto... Members, std::size_t... Index>
+constexpr auto makeFields(std::index_sequence<Index...>)
+{
+    return std::array<FieldLayout, sizeof...(Members)>{layoutOf<Class, Members>(keys[Index])...};
+}
+
+template <class Class, auto const & keys, auto... Members>
+inline constexpr auto fields = makeFields<Class, keys, Members...>(std::make_index_sequence<sizeof...(Members)>());
+
+} // namespace Detail
+
+/// A layout of these members under these keys, an array with a key for each.
+template <class Class, auto const & keys, auto... Members>
+constexpr Layout makeLayout(char const * name, bool hasClassInformation)
+{
+    static_assert(std::size(keys) == sizeof...(Members));
+    auto const & fields = Detail::fields<Class, keys, Members...>;
+    return {name, hasClassInformation, nullptr, fields.data(), fields.size()};
+}
+
+} // namespace Serialize
