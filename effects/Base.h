@@ -1,6 +1,6 @@
 /// @file
-/// The four classes between `Effect::Object` and the concrete effects. They fix `type()` and `impl()` and are a named
-/// link in the archives' chain of classes.
+/// The four classes between `Effect::Object` and the concrete effects. They define `type()` and `impl()`, and each is a
+/// named link in the chain of classes in the archives.
 #pragma once
 
 #include <EditorModel/EffectObject.h>
@@ -9,15 +9,18 @@
 
 namespace Effect {
 
-/// An effect that the render engine does not execute itself: what it asks for is done elsewhere.
+/// An effect that is carried out outside the render engine. The factory makes no settings of it.
 struct EFFECTS_API EffectDescriptor : Object
 {
     EFFECT_CLASS(EffectDescriptor)
 
-    Type descriptorType = Type::Video; ///< what `type()` answers
+    Type descriptorType = Type::Video; ///< what `type()` returns; archived under the key "type"
+
+    /// The known values of `descriptorType`.
+    EFFECTS_HIDDEN static constexpr Choice typeChoices[] = {{0, "Video", "Video"}, {1, "Audio", "Audio"}};
 
     EffectDescriptor();
-    /// The identifier, the group and what `type()` answers.
+    /// @param effectType  what `type()` returns
     EffectDescriptor(QString const & effectId, QString const & group, Type effectType);
 
     Type type() const override;
@@ -25,9 +28,11 @@ struct EFFECTS_API EffectDescriptor : Object
 
     static constexpr auto describe()
     {
-        return description(
-            "An effect that the render engine does not execute itself: what it asks for is done elsewhere.",
-            parameter("type", &EffectDescriptor::descriptorType));
+        return description("An effect that is carried out outside the render engine.",
+            parameter("type", &EffectDescriptor::descriptorType)
+                .label("Type")
+                .text("Whether the effect works on pictures or on sound")
+                .choices(typeChoices));
     }
 };
 
@@ -36,7 +41,7 @@ struct EFFECTS_API VideoEffect : Object
 {
     EFFECT_CLASS(VideoEffect)
 
-    /// The identifier and the group; the tag stays empty.
+    /// Leaves the tag empty.
     VideoEffect(QString const & effectId, QString const & group);
 
     Type type() const override;
@@ -45,41 +50,41 @@ struct EFFECTS_API VideoEffect : Object
     static constexpr auto describe() { return description("An effect on pictures."); }
 
 private:
-    VideoEffect(); // for the archives: no effect is without an identifier
+    VideoEffect(); // for the archives, which read the identifier afterwards
 };
 
-/// An audio effect that the engine runs as a filter.
+/// An audio effect that the render engine runs as a filter.
 struct EFFECTS_API AudioFilter : Object
 {
     EFFECT_CLASS(AudioFilter)
 
-    /// The identifier and the group; the tag stays empty.
+    /// Leaves the tag empty.
     AudioFilter(QString const & effectId, QString const & group);
 
     Type type() const override;
     Impl impl() const override;
 
-    static constexpr auto describe() { return description("An audio effect that the engine runs as a filter."); }
+    static constexpr auto describe() { return description("An effect on sound that runs as a filter."); }
 
 private:
-    AudioFilter(); // for the archives
+    AudioFilter(); // for the archives, which read the identifier afterwards
 };
 
-/// An audio effect that the engine runs as an effect.
+/// An audio effect that the render engine runs as an effect.
 struct EFFECTS_API AudioEffect : Object
 {
     EFFECT_CLASS(AudioEffect)
 
-    /// The identifier and the group; the tag stays empty.
+    /// Leaves the tag empty.
     AudioEffect(QString const & effectId, QString const & group);
 
     Type type() const override;
     Impl impl() const override;
 
-    static constexpr auto describe() { return description("An audio effect that the engine runs as an effect."); }
+    static constexpr auto describe() { return description("An effect on sound."); }
 
 private:
-    AudioEffect(); // for the archives
+    AudioEffect(); // for the archives, which read the identifier afterwards
 };
 
 } // namespace Effect
