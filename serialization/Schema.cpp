@@ -44,33 +44,51 @@ struct PlatformParameter : ParameterBuilder<PlatformParameter>
 
 /// The parameters of every effect, in the order of `Effect::Object`'s layout.
 constexpr ParameterTraits objectTraits[] = {
-    PlatformParameter().label("Tag").text("Name of the preset; sets effects of one kind apart").ineffective(),
-    PlatformParameter().label("Identifier").text("Kind of the effect; selects how it is converted"),
     PlatformParameter()
-        .label("Group")
-        .text("Identifier of the group in which the effect is offered, or its own")
+        .label("Tag")
+        .text("Name that distinguishes this preset from others of the effect")
         .ineffective(),
-    PlatformParameter().label("Intensity").text("Strength of the effect; 1 is the whole effect").suggest(0, 1),
-    PlatformParameter().label("Resource").text("File that the effect uses, by name and type"),
-    PlatformParameter().label("Resource path").text("Where the file of the resource is"),
+    PlatformParameter().label("Identifier").text("Which effect it is; decides what the render engine does"),
+    PlatformParameter().label("Group").text("Under which group the effect is offered").ineffective(),
+    PlatformParameter()
+        .label("Intensity")
+        .text("How strong the effect is; 0 is none, 1 is full strength")
+        .suggest(0, 1),
+    PlatformParameter().label("Resource").text("The file that the effect uses"),
+    PlatformParameter().label("Resource path").text("Where that file is on disk"),
     PlatformParameter()
         .label("Range")
-        .text("Part of the clip that the effect covers; all of it if not set")
+        .text("Part of the clip that the effect covers; the whole clip if not set")
         .ineffective(),
 };
 
 constexpr ParameterTraits rangeTraits[] = {
-    PlatformParameter().label("Start").text("Where the range begins").unit(Unit::microseconds).ineffective(),
-    PlatformParameter().label("Length").text("How long the range lasts").unit(Unit::microseconds).ineffective(),
+    PlatformParameter()
+        .label("Start")
+        .text("Where the effect begins in the clip")
+        .unit(Unit::microseconds)
+        .ineffective(),
+    PlatformParameter().label("Length").text("How long the effect lasts").unit(Unit::microseconds).ineffective(),
+};
+
+constexpr Choice resourceTypeChoices[] = {
+    {0, "None", "No file"},
+    {1, "Video", "Video"},
+    {2, "Audio", "Audio"},
+    {3, "Image", "Image"},
+    {4, "Blob", "Other file"},
 };
 
 constexpr ParameterTraits resourceTraits[] = {
-    PlatformParameter().label("Name").text("Name under which the file is registered"),
-    PlatformParameter().label("Type").text("What the file is"),
+    PlatformParameter().label("Name").text("Name under which the host registers the file"),
+    PlatformParameter()
+        .label("Type")
+        .text("What the file contains; LUTs and shaders are other files")
+        .choices(resourceTypeChoices),
 };
 
 constexpr ParameterTraits transformTraits[] = {
-    PlatformParameter().label("Matrix").text("Nine numbers, row by row; translation in the third row"),
+    PlatformParameter().label("Matrix").text("Nine numbers, row by row; the last row moves the picture"),
 };
 
 // --- Forms -----------------------------------------------------------------------------------------------------------
