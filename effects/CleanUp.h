@@ -1,5 +1,5 @@
 /// @file
-/// Cleaning a recording up: two filters, and descriptors of what the editor does outside the render engine.
+/// Effects that clean a recording up: two filters, and descriptors of what the editor does outside the render engine.
 #pragma once
 
 #include <cstdint>
@@ -8,44 +8,48 @@
 
 namespace Effect {
 
-/// Takes noise away. Its intensity has no effect.
+/// Removes noise. The intensity is ignored.
 struct EFFECTS_API AudioNoiseSuppress : AudioFilter
 {
     EFFECT_CLASS(AudioNoiseSuppress)
     AudioNoiseSuppress();
 
-    std::int32_t levelPercent = 50; ///< strength; not clamped
+    std::int32_t levelPercent = 50; ///< strength, in percent; not clamped
 
     static constexpr auto describe()
     {
-        return description("Takes noise away.", parameter("levelPercent", &AudioNoiseSuppress::levelPercent));
+        return description("Removes noise from the sound.", parameter("levelPercent", &AudioNoiseSuppress::levelPercent)
+                                                                .label("Strength")
+                                                                .text("Higher removes more noise, from 3 % on")
+                                                                .unit(Unit::percent)
+                                                                .suggest(0, 100));
     }
 };
 
-/// Mixes the channels down to one.
+/// Mixes the channels down to one. The intensity is ignored.
 struct EFFECTS_API AudioMonoChannel : AudioFilter
 {
     EFFECT_CLASS(AudioMonoChannel)
     AudioMonoChannel();
 
-    static constexpr auto describe() { return description("Mixes the channels down to one."); }
+    static constexpr auto describe() { return description("Mixes all channels down to one."); }
 };
 
-/// Takes noise away with a trained model.
+/// Removes noise with a trained model.
 struct EFFECTS_API AudioAiDenoise : EffectDescriptor
 {
     EFFECT_CLASS(AudioAiDenoise)
     AudioAiDenoise();
 
-    QString aiModelPath{QLatin1String("")}; ///< of the model's file; not checked
+    QString aiModelPath{QLatin1String("")}; ///< path of the model's file; not checked
 
     /// The model's path: another model gives another result.
     QString processingSettingsId() const override;
 
     static constexpr auto describe()
     {
-        return description(
-            "Takes noise away with a trained model.", parameter("aiModelPath", &AudioAiDenoise::aiModelPath));
+        return description("Removes noise from the sound with a trained model.",
+            parameter("aiModelPath", &AudioAiDenoise::aiModelPath).label("Model").text("File of the trained model"));
     }
 };
 
@@ -57,26 +61,30 @@ struct EFFECTS_API AudioNormalize : EffectDescriptor
 
     QString defaultTag() const override;
 
-    static constexpr auto describe() { return description("Brings the sound to a common loudness."); }
+    static constexpr auto describe() { return description("Brings quiet and loud recordings to the same loudness."); }
 };
 
-/// Cuts the background of a picture out with a trained model.
+/// Cuts the background out of a picture with a trained model.
 struct EFFECTS_API BackgroundRemove : EffectDescriptor
 {
     EFFECT_CLASS(BackgroundRemove)
     BackgroundRemove();
 
-    std::int32_t downscalingFrameSize = 256; ///< to which pictures are scaled down for the model, in pixels
-    QString aiModelPath{QLatin1String("")};  ///< of the model's file; not checked
+    std::int32_t downscalingFrameSize = 256; ///< size to which pictures are scaled down for the model, in pixels
+    QString aiModelPath{QLatin1String("")};  ///< path of the model's file; not checked
 
     /// The model's path and the frame size, joined by a colon.
     QString processingSettingsId() const override;
 
     static constexpr auto describe()
     {
-        return description("Cuts the background of a picture out with a trained model.",
-            parameter("downscalingFrameSize", &BackgroundRemove::downscalingFrameSize),
-            parameter("aiModelPath", &BackgroundRemove::aiModelPath));
+        return description("Cuts the background out of the picture with a trained model.",
+            parameter("downscalingFrameSize", &BackgroundRemove::downscalingFrameSize)
+                .label("Analysis size")
+                .text("Higher finds finer outlines and takes longer; the stock uses 256 and 512 px")
+                .unit(Unit::pixels)
+                .suggest(256, 512),
+            parameter("aiModelPath", &BackgroundRemove::aiModelPath).label("Model").text("File of the trained model"));
     }
 };
 

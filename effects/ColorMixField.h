@@ -24,9 +24,9 @@ struct EFFECTS_API ColorMixField : VideoEffect
 {
     ColorMixField() = delete;
 
-    double threshold;
-    double contrast;
-    std::uint32_t color; ///< `0xAARRGGBB`; the alpha plays no part
+    double threshold;    ///< threshold of the mixture, in the engine's unit
+    double contrast;     ///< contrast of the mixture, in the engine's unit
+    std::uint32_t color; ///< `0xAARRGGBB`; the alpha has no effect
 };
 
 } // namespace Effect
