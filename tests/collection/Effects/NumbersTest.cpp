@@ -536,7 +536,7 @@ std::vector<Row> modulation()
                 {mostLong, mostLong}}},
         // The product with 0.001 is another double for 9 and 13.
         {OF(AudioReverb, duration), "SetReverberationTime", {0},
-            {{9, 0.009}, {13, 0.013}, {0, 0.0}, {-1500, -1.5}, {mostLong, 9223372036854776.0},
+            {{9, 0.009}, {13, 0.013}, {16777217, 16777.217}, {0, 0.0}, {-1500, -1.5}, {mostLong, 9223372036854776.0},
                 {leastLong, -9223372036854776.0}}},
         {OF(AudioReverb, dryWetBalance), "SetDryGain", {0},
             {{0.3, 0.7}, {-0.3, 1.0}, {0.0, 1.0}, {-0.0, 1.0}, {smallest, 1.0}, {largest, -largest},
