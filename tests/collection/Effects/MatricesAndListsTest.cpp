@@ -132,6 +132,25 @@ TEST_F(MatricesAndLists, SideBySideTakesAnyTransform)
     });
 }
 
+TEST_F(MatricesAndLists, SideBySideTakesSharesBeforeLengths)
+{
+    // The source hangs over on all sides, at the top by 0.56 of its height 1.9, of which the target, 0.9 high, gives up
+    // its share. The product of the heights, or their quotient, taken first would end on the neighbouring doubles.
+    SideBySide effect;
+    effect.setTransformSrc({1.3, 0, 0, 1.9, 0, 0, 0.07, -0.11, 1});
+    effect.setTransformDst({0.7, 0, 0, 0.9, 0, 0, 0.03, 0.01, 1});
+    auto const record = Factory::videoEffectSettings(effect, {});
+    auto const & settings = at<SettingsEffectSubFrame>(record, 0);
+    EXPECT_EQ(settings.srcLeft, 0);
+    EXPECT_EQ(settings.srcTop, 0);
+    EXPECT_EQ(settings.srcRight, 1);
+    EXPECT_EQ(settings.srcBottom, 1);
+    EXPECT_EQ(settings.dstLeft, 0.22307692307692317);
+    EXPECT_EQ(settings.dstTop, 0.32526315789473687);
+    EXPECT_EQ(settings.dstRight, 0.7615384615384616);
+    EXPECT_EQ(settings.dstBottom, 0.7989473684210526);
+}
+
 TEST_F(MatricesAndLists, TransposeAtLargeAngles)
 {
     // For the last three the angle times pi, divided by 180, is another double than the angle times (pi / 180) or

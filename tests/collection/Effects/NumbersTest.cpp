@@ -780,11 +780,12 @@ TEST(NumbersTable, HasEveryNumberOfEveryEffect)
 }
 
 /// The settings that come of an effect, in words.
-std::vector<std::string> described(Object const & effect)
+std::vector<std::string> described(
+    Object const & effect, Factory::VideoParams const & videoParams = {}, Factory::AudioParams const & audioParams = {})
 {
     Quoril::Proc::Trace const trace;
-    auto const record = effect.type() == Type::Video ? Factory::videoEffectSettings(effect, {})
-                                                     : Factory::audioEffectSettings(effect, {});
+    auto const record = effect.type() == Type::Video ? Factory::videoEffectSettings(effect, videoParams)
+                                                     : Factory::audioEffectSettings(effect, audioParams);
     std::vector<std::string> settings;
     for (auto const & one : record.settings)
         settings.push_back(trace.describe(*one).toString());
@@ -817,6 +818,50 @@ TEST(NumbersTable, HasTheIntensityOfEveryEffectThatPassesIt)
             effect->intensity = 0.1;
             EXPECT_EQ(described(*effect), before);
         }
+    }
+}
+
+/// The parameters of a render, each number of which is of another size.
+constexpr Factory::VideoParams largeVideo{{leastLong, mostLong}, mostLong - 1};
+
+TEST(RenderParameters, ReachTheEffectsThatReadThemAndNoOther)
+{
+    std::set<std::string> const readers{
+        "Effect::AudioReverb", "Effect::FixVertVideo", "Effect::FlyingObjects", "Effect::Mask"};
+    Factory::SettingsFactory const factory;
+    for (std::string const & name : Serialize::Registry::names()) {
+        auto const object = Testing::created(name);
+        auto const * const effect = dynamic_cast<Object const *>(object.get());
+        if (effect && isConverted(*effect) && readers.count(name) == 0) {
+            EXPECT_EQ(described(*effect, largeVideo, {1}), described(*effect, {}, {})) << name;
+        }
+    }
+}
+
+TEST(RenderParameters, OfAVideoAreCopied)
+{
+    Factory::SettingsFactory const factory;
+    EXPECT_THAT(described(FixVertVideo(), largeVideo),
+        testing::ElementsAre(R"({"class": "SettingsEffectFixVertVideo", "calls": [], )"
+                             R"("fields": {"geometry": [-9223372036854775808, 9223372036854775807]}})"));
+    EXPECT_THAT(described(FlyingObjects(), largeVideo),
+        testing::ElementsAre(testing::HasSubstr(R"("paramsHead": [-9223372036854775808, 9223372036854775807], )")));
+}
+
+TEST(RenderParameters, OfAnAudioBoundTheLowPassOfAReverb)
+{
+    struct
+    {
+        std::int64_t sampleRate, passed;
+    } const rows[] = {
+        {44100, 22050}, {44101, 22050}, {1, 0}, {0, 0}, {-1, 0}, {-3, -1}, {least, -1073741824}, {most, 1073741823}};
+    Factory::SettingsFactory const factory;
+    AudioReverb effect;
+    effect.frequency = std::numeric_limits<std::int32_t>::max();
+    for (auto const & row : rows) {
+        EXPECT_THAT(described(effect, {}, {static_cast<std::int32_t>(row.sampleRate)}),
+            testing::ElementsAre(testing::HasSubstr("[\"SetSlpfFrequency\", " + std::to_string(row.passed) + "]")))
+            << row.sampleRate;
     }
 }
 
