@@ -300,6 +300,22 @@ TEST_P(Dispatch, NeitherGroupNorTagIsLookedAt)
     }
 }
 
+/// A host's shader that knows better than its field.
+struct HostShader final : ExternalShader
+{
+    bool hasIntensity() const override { return !supportsIntensity; }
+};
+
+TEST(DispatchTables, AskAHostsShaderWhetherItHasAnIntensity)
+{
+    Factory::SettingsFactory const factory;
+    HostShader effect;
+    effect.intensity = 0.25;
+    EXPECT_THAT(convertVideo(effect).settings, ElementsAre(testing::HasSubstr(R"(["SetIntensity", 0.25])")));
+    effect.supportsIntensity = true;
+    EXPECT_THAT(convertVideo(effect).settings, ElementsAre(testing::HasSubstr(R"(["SetIntensity", -1])")));
+}
+
 TEST(DispatchTables, HaveEveryEffectThatIsNoDescriptor)
 {
     std::vector<std::string> expected;

@@ -134,21 +134,22 @@ TEST_F(MatricesAndLists, SideBySideTakesAnyTransform)
 
 TEST_F(MatricesAndLists, SideBySideTakesSharesBeforeLengths)
 {
-    // The source hangs over on all sides, at the top by 0.56 of its height 1.9, of which the target, 0.9 high, gives up
-    // its share. The product of the heights, or their quotient, taken first would end on the neighbouring doubles.
+    // The source hangs over on all sides, at the left by 0.01 of its width 1.1, of which the target, 0.8 wide, gives up
+    // its share. The product or the quotient of the widths taken first would end on a neighbouring double, on each
+    // side.
     SideBySide effect;
-    effect.setTransformSrc({1.3, 0, 0, 1.9, 0, 0, 0.07, -0.11, 1});
-    effect.setTransformDst({0.7, 0, 0, 0.9, 0, 0, 0.03, 0.01, 1});
+    effect.setTransformSrc({1.1, 0, 0, 1.6, 0, 0, 0.04, -0.03, 1});
+    effect.setTransformDst({0.8, 0, 0, 0.7, 0, 0, 0.03, 0.04, 1});
     auto const record = Factory::videoEffectSettings(effect, {});
     auto const & settings = at<SettingsEffectSubFrame>(record, 0);
     EXPECT_EQ(settings.srcLeft, 0);
     EXPECT_EQ(settings.srcTop, 0);
     EXPECT_EQ(settings.srcRight, 1);
     EXPECT_EQ(settings.srcBottom, 1);
-    EXPECT_EQ(settings.dstLeft, 0.22307692307692317);
-    EXPECT_EQ(settings.dstTop, 0.32526315789473687);
-    EXPECT_EQ(settings.dstRight, 0.7615384615384616);
-    EXPECT_EQ(settings.dstBottom, 0.7989473684210526);
+    EXPECT_EQ(settings.dstLeft, 0.13727272727272727);
+    EXPECT_EQ(settings.dstTop, 0.33437500000000003);
+    EXPECT_EQ(settings.dstRight, 0.8645454545454545);
+    EXPECT_EQ(settings.dstBottom, 0.771875);
 }
 
 TEST_F(MatricesAndLists, TransposeAtLargeAngles)
