@@ -31,6 +31,12 @@ std::atomic<IItemStorage *> storageOfHost{nullptr};
 
 IItem::~IItem() = default;
 
+std::string const & IItem::file() const
+{
+    static std::string const none;
+    return none;
+}
+
 ICollection::~ICollection() = default;
 
 IItemStorage::~IItemStorage() = default;

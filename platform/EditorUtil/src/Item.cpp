@@ -9,8 +9,9 @@ namespace {
 class Item final : public IItem
 {
 public:
-    Item(Effect::Object const & payload, std::set<QString> categories)
+    Item(Effect::Object const & payload, std::set<QString> categories, std::string file)
         : m_categories(std::move(categories))
+        , m_file(std::move(file))
         , m_payload(payload)
     {}
 
@@ -21,12 +22,14 @@ public:
     void setUserFlagB(bool set) override { m_userFlagB = set; }
     bool userFlagA() const override { return m_userFlagA; }
     bool userFlagB() const override { return m_userFlagB; }
+    std::string const & file() const override { return m_file; }
 
     /// The storage has given the payload up.
     void ownPayload() { m_owned.reset(&m_payload); }
 
 private:
     std::set<QString> m_categories;
+    std::string m_file;
     bool m_userFlagA = false;
     bool m_userFlagB = false;
     Effect::Object const & m_payload;
@@ -35,9 +38,9 @@ private:
 
 } // namespace
 
-serialize_ptr<IItem> makeItem(std::unique_ptr<Effect::Object> effect, std::set<QString> categories)
+serialize_ptr<IItem> makeItem(std::unique_ptr<Effect::Object> effect, std::set<QString> categories, std::string file)
 {
-    auto item = std::make_unique<Item>(*effect, std::move(categories));
+    auto item = std::make_unique<Item>(*effect, std::move(categories), std::move(file));
     serialize_ptr<IItem> made;
     made.storage.add(std::move(effect), [&item = *item] { item.ownPayload(); });
     made.pointer = std::move(item);

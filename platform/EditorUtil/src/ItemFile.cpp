@@ -115,10 +115,12 @@ std::set<QString> categoriesOf(json const & document)
 
 serialize_ptr<IItem> readItem(std::string const & folder, std::string const & fileName)
 {
-    return parseItem(readFile(folder + '/' + fileName), folder);
+    std::string file = folder + '/' + fileName;
+    std::string const text = readFile(file);
+    return parseItem(text, folder, std::move(file));
 }
 
-serialize_ptr<IItem> parseItem(std::string_view text, std::string const & folder)
+serialize_ptr<IItem> parseItem(std::string_view text, std::string const & folder, std::string file)
 {
     if (text.empty())
         throw std::runtime_error("is empty");
@@ -140,7 +142,7 @@ serialize_ptr<IItem> parseItem(std::string_view text, std::string const & folder
     QString & resource = effect->resourcePath;
     if (!resource.isEmpty() && QDir::isRelativePath(resource))
         resource = QDir::cleanPath(QString::fromStdString(folder) + QLatin1Char('/') + resource);
-    return makeItem(std::move(effect), categoriesOf(document));
+    return makeItem(std::move(effect), categoriesOf(document), std::move(file));
 }
 
 void storeItem(

@@ -91,6 +91,12 @@ TEST(ParseItem, TellsWhatIsWrong)
         EXPECT_THAT(problemOf(row.text), HasSubstr(row.problem)) << row.text.substr(0, 80);
 }
 
+TEST(ParseItem, KnowsTheFileThatItIsGiven)
+{
+    EXPECT_EQ(parseItem(itemText("warm"), "/folder")->file(), "");
+    EXPECT_EQ(parseItem(itemText("warm"), "/folder", "/folder/a.effect.json")->file(), "/folder/a.effect.json");
+}
+
 TEST(ParseItem, TakesResourcePathsRelativeToTheFolder)
 {
     EXPECT_EQ(parseItem(withResource("warm.cube"), "/folder")->payload().resourcePath, "/folder/warm.cube");
@@ -104,7 +110,9 @@ TEST(ReadItem, ReadsAFile)
 {
     ItemFolder const folder;
     folder.add("Wärme");
-    EXPECT_EQ(readItem(folder.nativePath(), "Wärme.effect.json")->payload().tag, QString::fromUtf8("Wärme"));
+    auto const item = readItem(folder.nativePath(), "Wärme.effect.json");
+    EXPECT_EQ(item->payload().tag, QString::fromUtf8("Wärme"));
+    EXPECT_EQ(item->file(), folder.file("Wärme.effect.json"));
 }
 
 TEST(ReadItem, TellsWhyAFileCannotBeRead)

@@ -60,6 +60,12 @@ TEST(Item, FilesUnderCategoriesInOrder)
     EXPECT_THAT(item->categories(), ElementsAre("b", "m", "z"));
 }
 
+TEST(Item, KnowsItsFile)
+{
+    EXPECT_EQ(makeItem(effectWithTag("a"), {}, "/items/w\xE4rm.effect.json")->file(), "/items/w\xE4rm.effect.json");
+    EXPECT_EQ(makeItem(effectWithTag("a"))->file(), "");
+}
+
 TEST(Item, BelongsToTheUserWhenToldSo)
 {
     auto const item = makeItem(effectWithTag("a"));

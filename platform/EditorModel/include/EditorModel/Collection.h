@@ -4,6 +4,7 @@
 
 #include <memory>
 #include <set>
+#include <string>
 #include <vector>
 
 #include <EditorModel/EffectObject.h>
@@ -35,6 +36,10 @@ public:
     virtual bool userFlagA() const = 0;
     /// Whether the user may rename and delete the item. Clear at first.
     virtual bool userFlagB() const = 0;
+
+    /// The file that the item was read from: absolute, in the bytes of the file system. Empty for an item that came
+    /// from no file.
+    virtual std::string const & file() const;
 
 protected:
     IItem() = default;

@@ -32,7 +32,9 @@ inline constexpr std::int64_t maxItemFileSize = std::int64_t(16) << 20; ///< byt
 EDITORUTIL_EXPORT serialize_ptr<IItem> readItem(std::string const & folder, std::string const & fileName);
 
 /// Reads an item from the `text` of its file, as `readItem` does.
-EDITORUTIL_EXPORT serialize_ptr<IItem> parseItem(std::string_view text, std::string const & folder);
+/// @param file  what the item's `file()` returns
+EDITORUTIL_EXPORT serialize_ptr<IItem> parseItem(
+    std::string_view text, std::string const & folder, std::string file = {});
 
 /// Writes an item to the file of that name in a folder, which is made when it is missing: whole or not at all. A
 /// resource path that leads into the folder is written relative to it. Throws `std::runtime_error` that tells the path
