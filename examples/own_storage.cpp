@@ -22,7 +22,6 @@ public:
             callback(EditorCollection::makeItem(std::move(effect), {"category_color_filters"}));
         }
     }
-    void dropLoads(QString const &) override {}
 };
 
 } // namespace

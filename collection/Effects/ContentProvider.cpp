@@ -3,7 +3,6 @@
 #include <utility>
 
 #include <collection/Effects/SettingsFactory.h>
-#include <EditorModel/CollectionProvider.h>
 #include <EditorModel/UserBlob.h>
 #include <EditorSettings/Settings.h>
 #include <EditorUtil/CategoriesConfig.h>
@@ -17,7 +16,6 @@ namespace Effect {
 
 using EditorCollection::CategoriesConfig;
 using EditorCollection::CollectionHolder;
-using EditorCollection::CollectionProvider;
 using EditorCollection::ICollection;
 using EditorCollection::IItem;
 
@@ -56,7 +54,7 @@ void loadUserBlob(Object const & effect)
 
 // What happens to the items. These run on the storage's threads, and may do so while the constructor is still at work
 // or the destructor already is: so they know the holder alone, whose collections may be used from any thread until it
-// goes.
+// goes, and which drops the loads before it does.
 
 void addStockItem(CollectionHolder const & holder, QString const & collectionName, serialize_ptr<IItem> && item)
 {
@@ -104,11 +102,10 @@ ContentProvider::Impl::Impl()
     loadCollectionAsync(CollectionNames::effectsAudio, Settings::stockAudioEffectsPath());
     loadCollectionAsync(CollectionNames::audioEnhance, Settings::stockAudioEnhancePath());
     loadCollectionAsync(CollectionNames::colorFilters, Settings::stockColorFiltersPath());
-    CollectionProvider::itemStorage().loadItems(Settings::userEffectsPath(manualEnhanceClass),
-        CollectionNames::colorFilters,
+    loadItems(Settings::userEffectsPath(manualEnhanceClass), CollectionNames::colorFilters,
         [&holder](serialize_ptr<IItem> && item) { addUserColorFilter(holder, std::move(item)); });
     loadCollectionAsync(CollectionNames::luts, Settings::stockLutEffectsPath());
-    CollectionProvider::itemStorage().loadItems(Settings::userEffectsPath(lutClass), CollectionNames::luts,
+    loadItems(Settings::userEffectsPath(lutClass), CollectionNames::luts,
         [&holder](serialize_ptr<IItem> && item) { addUserLut(holder, std::move(item)); });
     // The user's shaders have no items of their own here: the host adds them.
     loadCollectionAsync(CollectionNames::shaderEffects, QString());
@@ -123,7 +120,7 @@ void ContentProvider::Impl::loadCollectionAsync(QString const & name, QString co
     if (path.isEmpty())
         return;
     CollectionHolder const & holder = *this;
-    CollectionProvider::itemStorage().loadItems(
+    loadItems(
         path, name, [&holder, name](serialize_ptr<IItem> && item) { addStockItem(holder, name, std::move(item)); });
 }
 

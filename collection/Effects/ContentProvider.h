@@ -16,8 +16,8 @@ namespace Effect {
 /// `EditorCollection::CollectionProvider::collection`; a collection asked for early is incomplete, and nothing tells
 /// when it no longer is, except the storage.
 ///
-/// Deliveries use the provider without a lock. None may be running when it is destroyed: the storage is stopped before,
-/// or drops the loads of the collections when they go, as the one in EditorUtil does.
+/// The destructor ends the provider's own loads, on whatever storage they were made, and waits for a delivery that is
+/// running. So it must not run inside one.
 class EFFECTS_API ContentProvider
 {
 public:

@@ -38,7 +38,6 @@ public:
         if (onLoad)
             onLoad(loads.back());
     }
-    void dropLoads(QString const &) override {}
 
     /// Delivers an item that carries the effect, to the load of that index.
     void deliver(std::size_t load, std::unique_ptr<Effect::Object> effect, std::set<QString> categories = {}) const

@@ -7,7 +7,6 @@
 #include <stdexcept>
 
 #include <EditorModel/CollectionProvider.h>
-#include <EditorModel/ItemStorage.h>
 
 namespace EditorCollection {
 
@@ -38,12 +37,6 @@ std::string const & IItem::file() const
 }
 
 ICollection::~ICollection() = default;
-
-IItemStorage::~IItemStorage() = default;
-
-void NullItemStorage::loadItems(QString const &, QString const &, ItemCallback) {}
-
-void NullItemStorage::dropLoads(QString const &) {}
 
 ICollection * CollectionProvider::collection(QString const & name)
 {

@@ -87,6 +87,7 @@ struct CollectionHolder::State
 {
     std::shared_mutex mutex;
     std::vector<std::unique_ptr<Collection>> collections;
+    ItemLoads loads;
 
     ICollection * find(QString const & name) const
     {
@@ -102,9 +103,7 @@ CollectionHolder::CollectionHolder()
 
 CollectionHolder::~CollectionHolder()
 {
-    if (IItemStorage * const storage = CollectionProvider::findItemStorage())
-        for (auto const & collection : m_state->collections)
-            storage->dropLoads(collection->name());
+    dropLoads();
     for (auto const & collection : m_state->collections)
         CollectionProvider::unregisterCollection(*collection);
 }
@@ -122,6 +121,16 @@ ICollection * CollectionHolder::collection(QString const & name) const
 {
     std::shared_lock const lock(m_state->mutex);
     return m_state->find(name);
+}
+
+void CollectionHolder::loadItems(QString const & path, QString const & collectionName, ItemCallback callback)
+{
+    m_state->loads.load(CollectionProvider::itemStorage(), path, collectionName, std::move(callback));
+}
+
+void CollectionHolder::dropLoads()
+{
+    m_state->loads.drop();
 }
 
 } // namespace EditorCollection

@@ -40,16 +40,48 @@ struct CloseFolder
     void operator()(DIR * folder) const { ::closedir(folder); }
 };
 
-/// The item files of a folder, sorted. Throws when it cannot be listed, and gives up when nobody wants it any more: a
-/// folder may be large, and whoever ends the storage waits for it.
+/// An item, or why there is none.
+struct Outcome
+{
+    serialize_ptr<IItem> item;
+    std::string error;
+};
+
+/// A folder to be delivered.
+struct Load
+{
+    std::string folder;
+    ItemCallback callback;
+    std::vector<std::string> names; ///< of the files
+    std::string error;              ///< why the folder could not be listed; this is delivered in place of the files
+    std::size_t next = 0;           ///< the first outcome that is in no batch yet
+    bool listed = false;
+    std::atomic<bool> dropped{false}; ///< by the storage
+
+    /// Whether what is left of it is still to be delivered.
+    bool isWanted() const { return !dropped && EditorCollection::isWanted(callback); }
+
+    std::size_t outcomes() const { return error.empty() ? names.size() : 1; }
+};
+
+/// Some consecutive outcomes of a load. Batches are delivered in the order in which they were handed out.
+struct Batch
+{
+    std::shared_ptr<Load> load;
+    std::vector<Outcome> outcomes;
+    bool ready = false;
+};
+
+/// The item files of a load's folder, sorted. Throws when it cannot be listed, and gives up when the load is no longer
+/// wanted: a folder may be large, and whoever ends the storage waits for it.
 // Not through std::filesystem, which builds the path of every entry and takes it apart again.
-std::vector<std::string> listFolder(std::string const & path, std::atomic<bool> const & isDropped)
+std::vector<std::string> listFolder(Load const & load)
 {
     std::vector<std::string> names;
-    std::unique_ptr<DIR, CloseFolder> const folder{::opendir(path.c_str())};
+    std::unique_ptr<DIR, CloseFolder> const folder{::opendir(load.folder.c_str())};
     if (!folder && errno != ENOENT)
         throw std::system_error(errno, std::generic_category());
-    while (folder && !isDropped) {
+    while (folder && load.isWanted()) {
         errno = 0; // stays at the end of the folder
         dirent const * const entry = ::readdir(folder.get());
         if (!entry && errno != 0)
@@ -62,36 +94,6 @@ std::vector<std::string> listFolder(std::string const & path, std::atomic<bool> 
     std::sort(names.begin(), names.end());
     return names;
 }
-
-/// An item, or why there is none.
-struct Outcome
-{
-    serialize_ptr<IItem> item;
-    std::string error;
-};
-
-/// A folder to be delivered.
-struct Load
-{
-    std::string folder;
-    QString collection;
-    ItemCallback callback;
-    std::vector<std::string> names; ///< of the files
-    std::string error;              ///< why the folder could not be listed; this is delivered in place of the files
-    std::size_t next = 0;           ///< the first outcome that is in no batch yet
-    bool listed = false;
-    std::atomic<bool> dropped{false};
-
-    std::size_t outcomes() const { return error.empty() ? names.size() : 1; }
-};
-
-/// Some consecutive outcomes of a load. Batches are delivered in the order in which they were handed out.
-struct Batch
-{
-    std::shared_ptr<Load> load;
-    std::vector<Outcome> outcomes;
-    bool ready = false;
-};
 
 std::string report(std::string const & path, char const * reason)
 {
@@ -131,7 +133,7 @@ public:
     }
     ~Loader()
     {
-        drop([](Load const &) { return true; });
+        dropAll();
         end();
     }
 
@@ -142,24 +144,20 @@ public:
         m_work.notify_one();
     }
 
-    template <class Predicate> void drop(Predicate const & isMeant)
+    void dropAll()
     {
         // These outlive the lock: a callback may do anything when it goes.
         Loads dropped;
         Loads done;
         Lock lock(m_mutex);
-        for (Loads * const loads : {&m_unlisted, &m_loads}) {
-            auto const rest =
-                std::stable_partition(loads->begin(), loads->end(), [&](auto const & load) { return !isMeant(*load); });
-            dropped.insert(dropped.end(), rest, loads->end());
-            loads->erase(rest, loads->end());
-        }
-        takeHandedOut();
         done.swap(m_done);
+        for (Loads * const loads : {&m_unlisted, &m_loads}) {
+            dropped.insert(dropped.end(), loads->begin(), loads->end());
+            loads->clear();
+        }
         for (Batch const & batch : m_batches)
-            if (isMeant(*batch.load))
-                dropped.push_back(batch.load);
-        if (m_delivered && isMeant(*m_delivered))
+            dropped.push_back(batch.load);
+        if (m_delivered)
             dropped.push_back(m_delivered);
         for (auto const & load : dropped)
             load->dropped = true;
@@ -221,7 +219,7 @@ private:
         m_deliverer = std::this_thread::get_id();
         lock.unlock();
         for (Outcome & outcome : batch.outcomes) {
-            if (batch.load->dropped)
+            if (!batch.load->isWanted())
                 break;
             deliverOne(batch.load->callback, outcome);
         }
@@ -260,7 +258,7 @@ private:
         std::vector<std::string> names;
         std::string problem;
         try {
-            names = listFolder(load->folder, load->dropped);
+            names = listFolder(*load);
         } catch (std::exception const & error) {
             problem = report(load->folder, error.what());
         }
@@ -268,17 +266,23 @@ private:
         load->names = std::move(names);
         load->error = std::move(problem);
         load->listed = true;
-        if (!load->dropped)
+        if (load->isWanted())
             m_foundCount += load->outcomes();
         m_done.push_back(std::move(load)); // unless dropped, it stands in m_loads as well
         takeHandedOut();
         wake();
     }
 
-    /// Reads the next files of the first load, without the lock.
+    /// Reads the next files of the first load, without the lock, or skips what is left of one that is not wanted.
     void read(Lock & lock)
     {
         auto const load = m_loads.front();
+        if (!load->isWanted()) {
+            load->next = load->outcomes();
+            takeHandedOut();
+            wake();
+            return;
+        }
         std::size_t const first = load->next;
         // Smaller towards the end of a folder, so that the threads come to it together.
         std::size_t const share = (load->outcomes() - first) / (2 * m_threadCount);
@@ -290,7 +294,7 @@ private:
         lock.unlock();
         std::vector<Outcome> outcomes;
         outcomes.reserve(last - first);
-        for (std::size_t index = first; index < last && !load->dropped; ++index)
+        for (std::size_t index = first; index < last && load->isWanted(); ++index)
             outcomes.push_back(readOne(*load, index));
         lock.lock();
         batch.outcomes = std::move(outcomes);
@@ -346,23 +350,17 @@ ItemStorage::ItemStorage(unsigned threads)
 
 ItemStorage::~ItemStorage() = default;
 
-void ItemStorage::loadItems(QString const & path, QString const & collectionName, ItemCallback callback)
+void ItemStorage::loadItems(QString const & path, QString const &, ItemCallback callback)
 {
     auto load = std::make_shared<Load>();
     load->folder = FS::absolutePath(path).toStdString();
-    load->collection = collectionName;
     load->callback = std::move(callback);
     m_loader->add(std::move(load));
 }
 
-void ItemStorage::dropLoads(QString const & collectionName)
-{
-    m_loader->drop([&](Load const & load) { return load.collection == collectionName; });
-}
-
 void ItemStorage::stop()
 {
-    m_loader->drop([](Load const &) { return true; });
+    m_loader->dropAll();
 }
 
 void ItemStorage::waitForAll()

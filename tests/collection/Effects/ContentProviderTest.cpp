@@ -14,6 +14,7 @@
 #include <EditorModel/Resource.h>
 #include <EditorSettings/Settings.h>
 #include <EditorUtil/CategoriesConfig.h>
+#include <EditorUtil/CollectionHolder.h>
 #include <EditorUtil/ItemFile.h>
 #include <EditorUtil/ItemStorage.h>
 #include <effects/Effects.h>
@@ -376,6 +377,69 @@ TEST_F(ContentProviderLoadTest, MayBeDestroyedInTheMiddle)
     ContentProvider const provider;
     storage.waitForAll();
     EXPECT_THAT(CollectionProvider::collection("Effects")->items(), SizeIs(stockCount));
+}
+
+TEST_F(ContentProviderLoadTest, MayBeReplacedByAnotherOne)
+{
+    // The new one is there before the old one goes.
+    auto provider = std::make_unique<ContentProvider>();
+    for (auto const delay : {0us, 500us, 3000us}) {
+        std::this_thread::sleep_for(delay);
+        provider = std::make_unique<ContentProvider>();
+    }
+    storage.waitForAll();
+    EXPECT_THAT(CollectionProvider::collection("Effects")->items(), SizeIs(stockCount));
+    EXPECT_THAT(categoryNames("Effects"), ElementsAre("category_a"));
+    EXPECT_THAT(CollectionProvider::collection("ColorFilters")->items(), SizeIs(userCount));
+}
+
+TEST_F(ContentProviderLoadTest, TwoAtOnceLoadAllOfTheirItems)
+{
+    ContentProvider const first;
+    auto const * const firsts = CollectionProvider::collection("Effects");
+    {
+        ContentProvider const second;
+        ASSERT_NE(CollectionProvider::collection("Effects"), firsts);
+        storage.waitForAll();
+        EXPECT_THAT(CollectionProvider::collection("Effects")->items(), SizeIs(stockCount));
+    }
+    EXPECT_THAT(firsts->items(), SizeIs(stockCount));
+}
+
+TEST_F(ContentProviderLoadTest, AHostsHolderGoesWithoutItsLoads)
+{
+    ContentProvider const provider;
+    {
+        // The host's own, of a name that the provider uses too.
+        CollectionHolder holder;
+        holder.registerCollection("Effects");
+        holder.loadItems(stock("VideoEffects"), "Effects", [&holder](serialize_ptr<IItem> && item) {
+            item.storage.releaseAll();
+            holder.collection("Effects")->addItem(std::move(item.pointer));
+        });
+    }
+    storage.waitForAll();
+    EXPECT_THAT(CollectionProvider::collection("Effects")->items(), SizeIs(stockCount));
+}
+
+TEST_F(ContentProviderLoadTest, MayBeDestroyedInTheMiddleWithoutTheStorage)
+{
+    for (auto const delay : {0us, 500us, 3000us, 10'000us, 30'000us}) {
+        CollectionProvider::setItemStorage(&storage);
+        ContentProvider const provider;
+        std::this_thread::sleep_for(delay);
+        CollectionProvider::setItemStorage(nullptr);
+    }
+    EXPECT_TRUE(storage.waitForAll(60s));
+}
+
+TEST_F(ContentProviderLoadTest, MayOutliveTheStorage)
+{
+    auto shortLived = std::make_unique<ItemStorage>();
+    CollectionProvider::setItemStorage(shortLived.get());
+    ContentProvider const provider;
+    CollectionProvider::setItemStorage(nullptr);
+    shortLived.reset();
 }
 
 } // namespace

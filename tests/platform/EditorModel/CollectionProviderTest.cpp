@@ -34,7 +34,6 @@ TEST(NullItemStorage, DeliversNothing)
 {
     NullItemStorage storage;
     storage.loadItems("/", "Samples", [](serialize_ptr<IItem> &&) { ADD_FAILURE(); });
-    storage.dropLoads("Samples");
 }
 
 } // namespace

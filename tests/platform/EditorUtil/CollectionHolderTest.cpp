@@ -1,6 +1,7 @@
 #include <EditorUtil/CollectionHolder.h>
 
 #include <memory>
+#include <stdexcept>
 #include <string>
 #include <thread>
 #include <utility>
@@ -69,33 +70,86 @@ TEST(CollectionHolder, TheLaterOfTwoIsFoundAsLongAsItLives)
     EXPECT_EQ(CollectionProvider::collection("A"), first.collection("A"));
 }
 
-/// Notes which loads were dropped.
-class DroppingStorage final : public IItemStorage
+/// The process's storage while it lives. It keeps the callbacks and delivers when the test asks for it.
+class KeepingStorage final : public IItemStorage
 {
 public:
-    DroppingStorage() { CollectionProvider::setItemStorage(this); }
-    ~DroppingStorage() override { CollectionProvider::setItemStorage(nullptr); }
+    KeepingStorage() { CollectionProvider::setItemStorage(this); }
+    ~KeepingStorage() override { CollectionProvider::setItemStorage(nullptr); }
 
-    std::vector<QString> dropped;
+    std::vector<ItemCallback> callbacks;
 
-    void loadItems(QString const &, QString const &, ItemCallback) override {}
-    void dropLoads(QString const & collectionName) override
+    void loadItems(QString const &, QString const &, ItemCallback callback) override
     {
-        // The collections are still there for callbacks that run until now.
-        EXPECT_NE(CollectionProvider::collection(collectionName), nullptr);
-        dropped.push_back(collectionName);
+        callbacks.push_back(std::move(callback));
+    }
+    void deliverToAll() const
+    {
+        for (ItemCallback const & callback : callbacks)
+            callback(makeItem(std::make_unique<Sample::Effect>()));
     }
 };
 
-TEST(CollectionHolder, DropsTheLoadsOfItsCollectionsBeforeTheyGo)
+TEST(CollectionHolder, NeedsAStorageForItsLoads)
 {
-    DroppingStorage storage;
+    CollectionHolder holder;
+    EXPECT_THROW(holder.loadItems("/folder", "A", [](serialize_ptr<IItem> &&) {}), std::logic_error);
+}
+
+TEST(CollectionHolder, ItsCollectionsAreThereUntilItsLoadsAreDropped)
+{
+    KeepingStorage const storage;
+    auto holder = std::make_unique<CollectionHolder>();
+    holder->registerCollection("A");
+    // What a callback holds goes when its load is dropped.
+    bool isDropped = false;
+    std::shared_ptr<void> held(nullptr, [&](void *) {
+        isDropped = true;
+        EXPECT_NE(CollectionProvider::collection("A"), nullptr);
+    });
+    holder->loadItems("/folder", "A", [held = std::move(held)](serialize_ptr<IItem> &&) {});
+    EXPECT_FALSE(isDropped);
+    holder.reset();
+    EXPECT_TRUE(isDropped);
+    EXPECT_EQ(CollectionProvider::collection("A"), nullptr);
+}
+
+TEST(CollectionHolder, DropsItsOwnLoadsOnly)
+{
+    KeepingStorage const storage;
+    std::vector<std::string> delivered;
+    CollectionHolder first;
+    first.registerCollection("A");
+    first.loadItems("/folder", "A", [&](serialize_ptr<IItem> &&) { delivered.emplace_back("first"); });
     {
-        CollectionHolder holder;
-        holder.registerCollection("A");
-        holder.registerCollection("B");
+        CollectionHolder second;
+        second.registerCollection("A");
+        second.loadItems("/folder", "A", [&](serialize_ptr<IItem> &&) { delivered.emplace_back("second"); });
+        // The name of the collection makes no difference, nor who else has one of that name.
+        first.loadItems("/folder", "A", [&](serialize_ptr<IItem> &&) { delivered.emplace_back("first again"); });
+        CollectionProvider::itemStorage().loadItems(
+            "/folder", "A", [&](serialize_ptr<IItem> &&) { delivered.emplace_back("nobody's"); });
+        storage.deliverToAll();
+        EXPECT_THAT(delivered, ElementsAre("first", "second", "first again", "nobody's"));
+        delivered.clear();
     }
-    EXPECT_THAT(storage.dropped, ElementsAre("A", "B"));
+    storage.deliverToAll();
+    EXPECT_THAT(delivered, ElementsAre("first", "first again", "nobody's"));
+}
+
+TEST(CollectionHolder, DropsItsLoadsOnTheStorageThatItUsed)
+{
+    KeepingStorage const used;
+    std::size_t delivered = 0;
+    auto holder = std::make_unique<CollectionHolder>();
+    holder->loadItems("/folder", "A", [&](serialize_ptr<IItem> &&) { ++delivered; });
+    {
+        KeepingStorage const other; // and none at all when it goes
+        EXPECT_EQ(&CollectionProvider::itemStorage(), &other);
+    }
+    holder.reset();
+    used.deliverToAll();
+    EXPECT_EQ(delivered, 0U);
 }
 
 class CollectionTest : public testing::Test

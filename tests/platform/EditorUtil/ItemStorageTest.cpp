@@ -215,7 +215,7 @@ TEST(ItemStorage, ACallbackMayUseTheStorageWhenItGoes)
         explicit Owned(ItemStorage & storage)
             : m_storage(storage)
         {}
-        ~Owned() { m_storage.dropLoads("Others"); }
+        ~Owned() { m_storage.stop(); }
 
     private:
         ItemStorage & m_storage;
@@ -363,16 +363,21 @@ TEST_F(ItemStorageLargeTest, StopWaitsForTheCallbackAndDropsTheRest)
     EXPECT_EQ(later, count);
 }
 
-TEST_F(ItemStorageLargeTest, OneCollectionsLoadsAreDropped)
+TEST_F(ItemStorageLargeTest, SkipsTheLoadsThatTheirOwnerDropped)
 {
+    ItemFolder const broken;
+    broken.write("broken.effect.json", "{");
     Gate dropped(5);
     std::size_t others = 0;
+    LogCapture const log;
     ItemStorage storage;
-    storage.loadItems(folder().path(), "Dropped", dropped.callback());
-    storage.loadItems(folder().path(), "Others", [&](serialize_ptr<IItem> &&) { ++others; });
-    storage.loadItems(folder().path(), "Dropped", dropped.callback());
+    ItemLoads loads;
+    loads.load(storage, folder().path(), "Samples", dropped.callback());
+    storage.loadItems(folder().path(), "Samples", [&](serialize_ptr<IItem> &&) { ++others; });
+    loads.load(storage, folder().path(), "Samples", dropped.callback());
+    loads.load(storage, broken.path(), "Samples", dropped.callback());
     dropped.waitUntilReached();
-    auto dropping = std::async(std::launch::async, [&] { storage.dropLoads("Dropped"); });
+    auto dropping = std::async(std::launch::async, [&] { loads.drop(); });
     EXPECT_EQ(dropping.wait_for(20ms), std::future_status::timeout);
     dropped.open();
     dropping.wait();
@@ -380,6 +385,24 @@ TEST_F(ItemStorageLargeTest, OneCollectionsLoadsAreDropped)
     storage.waitForAll();
     EXPECT_EQ(dropped.count, 5U);
     EXPECT_EQ(others, count);
+    EXPECT_EQ(storage.progress().delivered, 5 + count);
+    EXPECT_THAT(log.errors(), IsEmpty());
+}
+
+TEST_F(ItemStorageLargeTest, MayGoBeforeTheOwnerOfItsLoads)
+{
+    ItemLoads loads;
+    std::size_t delivered = 0;
+    {
+        ItemStorage storage;
+        loads.load(storage, folder().path(), "Samples", [&](serialize_ptr<IItem> &&) { ++delivered; });
+    }
+    loads.drop();
+    ItemStorage storage;
+    delivered = 0;
+    loads.load(storage, folder().path(), "Samples", [&](serialize_ptr<IItem> &&) { ++delivered; });
+    storage.waitForAll();
+    EXPECT_EQ(delivered, count);
 }
 
 TEST_F(ItemStorageLargeTest, ACallbackMayDropItsOwnLoad)

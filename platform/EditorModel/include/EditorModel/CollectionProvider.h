@@ -34,7 +34,8 @@ public:
     static IItemStorage & itemStorage();
     /// The same, null when the host has set none.
     static IItemStorage * findItemStorage();
-    /// Sets the storage, which the host keeps alive until it sets another one or null.
+    /// Sets the storage, which the host keeps alive until it sets another one or null. Loads made before stay with the
+    /// storage that they were made on.
     static void setItemStorage(IItemStorage * storage);
 };
 

@@ -5,20 +5,21 @@
 #include <memory>
 
 #include <EditorModel/Collection.h>
+#include <EditorModel/ItemStorage.h>
 #include <EditorUtil/Export.h>
 
 #include <QString>
 
 namespace EditorCollection {
 
-/// Owns collections and makes them known to `CollectionProvider` for as long as it lives. Collections may be asked for
-/// from any thread, also while others are being registered.
+/// Owns collections and makes them known to `CollectionProvider` for as long as it lives. All operations may be called
+/// from any thread.
 class EDITORUTIL_EXPORT CollectionHolder
 {
 public:
     CollectionHolder();
-    /// First has the host's item storage drop the loads of these collections: whoever derives from this class may hand
-    /// out callbacks that use the collections. Must not run inside such a callback.
+    /// Drops the holder's loads before the collections go, so that callbacks may use them. Must not run inside such a
+    /// callback.
     virtual ~CollectionHolder();
     CollectionHolder(CollectionHolder const &) = delete;
     CollectionHolder & operator=(CollectionHolder const &) = delete;
@@ -28,6 +29,16 @@ public:
 
     /// This holder's collection of that name; null when it has none.
     ICollection * collection(QString const & name) const;
+
+    /// Has the host's item storage load items on behalf of this holder, see `IItemStorage::loadItems`. Throws
+    /// `std::logic_error` when the host has set no storage.
+    /// @param callback  not called any more once the holder has dropped its loads
+    void loadItems(QString const & path, QString const & collectionName, ItemCallback callback);
+
+    /// Drops the loads made by this holder, and nobody else's, on whatever storage they were made. No callback runs any
+    /// more when this returns, except for one that makes this very call. A derived class whose callbacks use its own
+    /// members calls this first in its destructor.
+    void dropLoads();
 
 private:
     struct State;

@@ -22,7 +22,7 @@ namespace EditorCollection {
 ///
 /// A file that cannot be read, and a folder that cannot be listed, is reported in its turn with one line in the log, at
 /// severity ERROR, that tells the path and the reason; the other items are not affected. What a callback throws is
-/// reported the same way.
+/// reported the same way. The rest of a load whose callback is no longer wanted is skipped.
 ///
 /// All operations may be called from any thread. Callbacks may start and drop loads.
 class EDITORUTIL_EXPORT ItemStorage final : public IItemStorage
@@ -42,7 +42,6 @@ public:
     ~ItemStorage() override;
 
     void loadItems(QString const & path, QString const & collectionName, ItemCallback callback) override;
-    void dropLoads(QString const & collectionName) override;
 
     /// Drops every load made so far. No callback runs any more when this returns, except for one that makes this call.
     /// Later loads are carried out as ever.
