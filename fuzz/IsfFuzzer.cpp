@@ -10,6 +10,8 @@
 #include <string>
 #include <string_view>
 
+#include <QString>
+
 using namespace External::ShaderISF;
 
 namespace {
@@ -36,6 +38,7 @@ extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const * data, std::size_t siz
     } catch (std::runtime_error const & error) {
         std::string_view const reason = error.what();
         require(!reason.empty() && reason.size() < 1000 && reason.find('\n') == std::string_view::npos);
+        require(QString::fromUtf8(error.what()).toUtf8().toStdString() == reason);
         return 0;
     }
     require(countLines(settings.pixelShader) == countLines(settings.vertexShader));

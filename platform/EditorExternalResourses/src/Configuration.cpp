@@ -6,11 +6,14 @@
 #include <stdexcept>
 
 #include <EditorExternalResourses/ShaderISFKeys.h>
+#include <EditorSerialization/MessageText.h>
 
 #include "Conversion.h"
-#include "Quote.h"
 
 namespace External::ShaderISF {
+
+using Serialize::quotedText;
+using Serialize::shortenedText;
 
 namespace {
 
@@ -102,9 +105,9 @@ public:
     void add(std::string const & name, std::string const & place)
     {
         if (!isIdentifier(name))
-            throw std::runtime_error(place + ": " + quote(name) + " is no name of a GLSL variable");
+            throw std::runtime_error(place + ": " + quotedText(name) + " is no name of a GLSL variable");
         if (!m_names.insert(name).second)
-            throw std::runtime_error(place + ": the name " + quote(name) + " is used twice");
+            throw std::runtime_error(place + ": the name " + quotedText(name) + " is used twice");
     }
 
 private:
@@ -224,7 +227,7 @@ InputType const & findInputType(Node const & input)
                 [&](char a, char b) { return lower(a) == lower(b); }))
             return type;
     }
-    input.fail(Keys::type, name.empty() ? "is missing" : "is " + quote(name) + ", which is no type of inputs");
+    input.fail(Keys::type, name.empty() ? "is missing" : "is " + quotedText(name) + ", which is no type of inputs");
 }
 
 Output makeInputs(Node const & head, Names & names)
@@ -257,7 +260,7 @@ std::map<std::string, Node> findPersistentBuffers(Node const & head)
     std::string const place = head.place(Keys::persistentBuffers);
     if (list->is_object()) {
         for (auto const & [name, buffer] : list->items())
-            buffers.emplace(name, Node(buffer, place + '.' + shorten(name)));
+            buffers.emplace(name, Node(buffer, place + '.' + shortenedText(name)));
     } else {
         for (std::string const & name : head.get(Keys::persistentBuffers, std::vector<std::string>()))
             buffers.emplace(name, Node(nothing, place));
@@ -279,7 +282,7 @@ Output makePass(Node const & pass, std::map<std::string, Node> const & buffers)
 {
     std::string const target = pass.get(Keys::target, std::string());
     if (!target.empty() && !isIdentifier(target))
-        pass.fail(Keys::target, "is " + quote(target) + ", which is no name of a GLSL variable");
+        pass.fail(Keys::target, "is " + quotedText(target) + ", which is no name of a GLSL variable");
     auto const found = buffers.find(target);
     bool const isListed = found != buffers.end();
     Node const & buffer = isListed ? found->second : pass;
@@ -348,7 +351,7 @@ Output makeImports(Node const & head, Names & names, ResolvePath const & resolve
     std::string const place = head.place(Keys::imported);
     for (auto const & [name, import] : value->items()) {
         names.add(name, place);
-        imports.push_back(makeImport(Node(import, place + '.' + shorten(name)), name, resolvePath));
+        imports.push_back(makeImport(Node(import, place + '.' + shortenedText(name)), name, resolvePath));
     }
     return imports;
 }

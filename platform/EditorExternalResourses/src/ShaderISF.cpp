@@ -4,6 +4,7 @@
 #include <stdexcept>
 
 #include <EditorModel/Resource.h>
+#include <EditorSerialization/MessageText.h>
 #include <FileSystem/FileSystem.h>
 #include <glog/logging.h>
 #include <nlohmann/json.hpp>
@@ -15,7 +16,6 @@
 
 #include "Configuration.h"
 #include "HeadComment.h"
-#include "Quote.h"
 
 namespace External::ShaderISF {
 
@@ -36,14 +36,15 @@ std::string decodeText(std::string_view bytes, std::string const & what)
     return text.toStdString();
 }
 
-/// The library's own message without its number and, since it counts within the JSON only, without its place.
+/// The library's own message without its number and, since it counts within the JSON only, without its place. It quotes
+/// the text up to the byte at fault, which may be in the middle of a character.
 std::string describe(nlohmann::json::exception const & error)
 {
     std::string const message = error.what();
     std::size_t begin = message.find("] ") + 2;
     if (message.compare(begin, 12, "parse error ") == 0)
         begin = message.find(": ", begin) + 2;
-    return shorten(message.substr(begin));
+    return Serialize::shortenedText(std::string_view(message).substr(begin));
 }
 
 nlohmann::json parseHead(std::string_view shader, HeadComment const & head)
@@ -75,6 +76,11 @@ ISFSettings parse(std::string_view fragmentShader, std::string_view vertexShader
         decodeText(vertexShader, "the vertex shader")};
 }
 
+std::string quotedText(QString const & text)
+{
+    return Serialize::quotedText(text.toStdString());
+}
+
 /// The first regular file that is `base` with one of the suffixes, or an empty text. Devices and pipes don't count:
 /// they may have no end, or wait for ever.
 QString findFile(QString const & base, std::initializer_list<char const *> suffixes)
@@ -94,7 +100,7 @@ QByteArray readFile(QString const & path)
     if (file.open(QIODevice::ReadOnly))
         bytes = file.read(static_cast<qint64>(maximumFileSize) + 1);
     if (file.error() != QFileDevice::NoError)
-        throw std::runtime_error(quote(path) + ": " + file.errorString().toStdString());
+        throw std::runtime_error(quotedText(path) + ": " + file.errorString().toStdString());
     return bytes;
 }
 
@@ -118,7 +124,7 @@ std::shared_ptr<ISFSettings> loadEffectISF(QString const & name, QString const &
     try {
         return std::make_shared<ISFSettings>(loadFile(findShader(name, absolutePath)));
     } catch (std::exception const & error) {
-        LOG(ERROR) << "Couldn't load ISF shader " << quote(name) << ": " << error.what();
+        LOG(ERROR) << "Couldn't load ISF shader " << quotedText(name) << ": " << error.what();
     }
     return std::make_shared<ISFSettings>();
 }
@@ -128,7 +134,7 @@ ISFSettings loadFile(QString const & path)
     QString const fragmentPath = findFile(path, {"", ".fs", ".frag", ".isf"});
     if (fragmentPath.isEmpty())
         throw std::runtime_error(
-            quote(path) + (FS::exists(path) ? ": this is not a regular file" : ": there is no such file"));
+            quotedText(path) + (FS::exists(path) ? ": this is not a regular file" : ": there is no such file"));
     QFileInfo const info(fragmentPath);
     QDir const folder(info.absolutePath());
     QString const vertexPath = findFile(folder.filePath(info.completeBaseName()), {".vs", ".vert"});
@@ -139,7 +145,7 @@ ISFSettings loadFile(QString const & path)
             return FS::absolutePath(folder.filePath(QString::fromStdString(import))).toStdString();
         });
     } catch (std::runtime_error const & error) {
-        throw std::runtime_error(quote(fragmentPath) + ": " + error.what());
+        throw std::runtime_error(quotedText(fragmentPath) + ": " + error.what());
     }
 }
 

@@ -15,6 +15,7 @@
 
 #include <dirent.h>
 
+#include <EditorSerialization/MessageText.h>
 #include <EditorUtil/ItemFile.h>
 #include <FileSystem/FileSystem.h>
 
@@ -97,7 +98,7 @@ std::vector<std::string> listFolder(Load const & load)
 
 std::string report(std::string const & path, char const * reason)
 {
-    return "Couldn't read " + path + ": " + reason;
+    return "Couldn't read " + Serialize::messageText(path) + ": " + Serialize::messageText(reason);
 }
 
 Outcome readOne(Load const & load, std::size_t index)
@@ -241,7 +242,7 @@ private:
                 ++m_deliveredCount;
                 return;
             } catch (std::exception const & error) {
-                outcome.error = std::string("Couldn't deliver an item: ") + error.what();
+                outcome.error = "Couldn't deliver an item: " + Serialize::messageText(error.what());
             }
         }
         LOG(ERROR) << outcome.error;

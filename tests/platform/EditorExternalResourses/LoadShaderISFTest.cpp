@@ -59,6 +59,7 @@ protected:
         EXPECT_EQ(log.errors().size(), 1u);
         std::string const line = log.errors().empty() ? std::string() : log.errors().front();
         EXPECT_THAT(line, Not(HasSubstr("\n")));
+        EXPECT_EQ(QString::fromStdString(line).toStdString(), line) << "this is no UTF-8";
         return line;
     }
 
@@ -196,6 +197,22 @@ TEST_F(LoadShaderISF, KeepsTheLogToOneLineWhateverTheNames)
 {
     EXPECT_THAT(refused("two\nlines", path("a\nb.fs")), AllOf(HasSubstr("two\\nlines"), HasSubstr("a\\nb.fs")));
     EXPECT_LT(refused(QString(100000, 'x'), QString(100000, 'y')).size(), 1000u);
+}
+
+TEST_F(LoadShaderISF, LogsUtf8WhateverTheBytes)
+{
+    // The parser stops behind the first byte of a character, and quotes the text up to there.
+    std::string const unexpected[] = {"\xC3\xA9", "\xE2\x82\xAC", "\xF0\x9F\x8E\xA8", "\xFF", "\xC3"};
+    for (std::string const & bytes : unexpected) {
+        write("glow.fs", "/*{" + bytes + "}*/");
+        EXPECT_THAT(refused("Glow", path("glow.fs")), HasSubstr("line 1, column 4: syntax error"));
+        write("glow.fs", "/*{\"CREDIT\": \"\xC3\xA9\", " + bytes);
+        refused("Glow", path("glow.fs"));
+        write("glow.fs", "/*{\"INPUTS\": [{\"NAME\": \"" + bytes + "\"}]}*/");
+        EXPECT_THAT(refused("Glow", path("glow.fs")), HasSubstr("is no name of a GLSL variable"));
+        write("glow.fs", "/*{\"PASSES\": [{\"TARGET\": \"" + std::string(199, 'x') + bytes + "tail\"}]}*/");
+        EXPECT_THAT(refused("Glow", path("glow.fs")), HasSubstr("is no name of a GLSL variable"));
+    }
 }
 
 TEST_F(LoadShaderISF, LoadsInParallel)

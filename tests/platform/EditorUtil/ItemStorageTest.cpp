@@ -2,6 +2,7 @@
 
 #include <atomic>
 #include <chrono>
+#include <cstdio>
 #include <future>
 #include <memory>
 #include <stdexcept>
@@ -172,6 +173,30 @@ TEST(ItemStorage, OneLineForEachFileThatCannotBeRead)
     EXPECT_EQ(progress.found, 12U);
     EXPECT_EQ(progress.delivered, 3U);
     EXPECT_EQ(progress.failed, 9U);
+}
+
+TEST(ItemStorage, LogsUtf8WhateverTheBytes)
+{
+    ItemFolder const folder;
+    // Not through Qt, which has no such names. The text is cut in the middle of a character as well.
+    std::string const name = folder.file("w\xE4rm\n.effect.json");
+    std::FILE * const file = std::fopen(name.c_str(), "wb");
+    ASSERT_NE(file, nullptr);
+    EXPECT_GE(std::fputs("{\xC3", file), 0);
+    ASSERT_EQ(std::fclose(file), 0);
+
+    LogCapture const log;
+    Tags delivered;
+    ItemStorage storage;
+    storage.loadItems(folder.path(), "Samples", delivered.callback());
+    storage.loadItems(folder.path(), "Samples", [](auto &&) {});
+    storage.waitForAll();
+    EXPECT_EQ(std::remove(name.c_str()), 0);
+    ASSERT_EQ(log.errors().size(), 2U);
+    EXPECT_THAT(log.errors()[0],
+        StartsWith("Couldn't read " + folder.file("w\xEF\xBF\xBDrm\xEF\xBF\xBD.effect.json: this is no JSON")));
+    for (std::string const & error : log.errors())
+        EXPECT_EQ(QString::fromStdString(error).toStdString(), error) << "this is no UTF-8";
 }
 
 TEST(ItemStorage, GoesOnAfterACallbackThatThrows)
