@@ -26,7 +26,7 @@ json describe(std::string const & file)
     QString error;
     auto const table = Effect::Utils::parseLutEffect(QByteArray::fromStdString(bytes), &error);
     if (!table && error.isEmpty())
-        throw Failure(file + ": it begins like no format of lookup tables");
+        throw Failure(file + ": " + LUT::ParserLUTFactory::UnknownFormat());
     if (!table)
         throw Failure(file + ": " + error.toStdString());
     return {{"format", table->format}, {"size", table->size}, {"title", asText(table->title)}};

@@ -13,7 +13,9 @@ namespace Effect::Utils {
 std::shared_ptr<Quoril::Proc::LUT::LUTTable> parseLutEffect(QByteArray const & data, QString * error)
 {
     try {
-        std::string const text = data.trimmed().toStdString();
+        // Blank lines ahead stay: the parsers skip them, and count them in their messages.
+        std::string text = data.toStdString();
+        text.erase(text.find_last_not_of(" \t\n\v\f\r") + 1);
         auto const parser = Quoril::Proc::LUT::ParserLUTFactory::GetParser(text);
         return parser ? parser->Parse(text) : nullptr;
     } catch (std::exception const & exception) {

@@ -22,7 +22,8 @@ namespace Effect::Utils {
 /// Reads a lookup table out of the text of a file, in any format that there is a parser for, with the parser that the
 /// conversion of an `Effect::Lut` uses. All of `data` is text, but white space at its ends plays no part. Any thread
 /// may call it.
-/// @param error  if not null, told what is wrong with the table; left alone when no format begins like the text
+/// @param error  if not null, receives what is wrong with the table, with the line of `data` it is in; left alone when
+///               the text begins like none of the formats
 /// @return null for what is no table
 EFFECTS_API std::shared_ptr<Quoril::Proc::LUT::LUTTable> parseLutEffect(QByteArray const & data, QString * error);
 

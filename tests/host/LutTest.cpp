@@ -59,7 +59,8 @@ TEST_F(LutCommand, GoesOnBehindABadFile)
     EXPECT_EQ(document[0]["file"], text("bad.cube"));
     EXPECT_EQ(document[0]["error"].get<std::string>().rfind(text("bad.cube") + ": line 3: ", 0), 0U) << lines;
     EXPECT_EQ(document[1]["error"], text("nowhere") + ": No such file or directory");
-    EXPECT_EQ(document[2]["error"], text("unknown.txt") + ": it begins like no format of lookup tables");
+    EXPECT_EQ(document[2]["error"],
+        text("unknown.txt") + ": begins like none of the formats that are read: cube, 3dl, spi3d, csp");
     EXPECT_EQ(document[3]["format"], "cube");
 }
 

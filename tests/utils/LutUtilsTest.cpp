@@ -61,9 +61,24 @@ TEST(ParseLutEffect, WhiteSpaceAroundTheTextIsAsGoodAsAbsent)
 {
     QString error;
     EXPECT_TRUE(parseLutEffect("\n \r\n\t\n\v\f" + table + "\f\v\n \t\r\n", &error)) << error.toStdString();
-    // So the lines that a message counts are those of the text.
-    EXPECT_FALSE(parseLutEffect("\n\n\nLUT_1D_SIZE 2\n0 oops 0\n", &error));
-    EXPECT_TRUE(error.contains("line 2")) << error.toStdString();
+}
+
+TEST(ParseLutEffect, CountsTheLinesOfTheWholeText)
+{
+    // With blank lines ahead of it, and a byte order mark before or behind those.
+    QString const problem = "expected three finite numbers, found \"oops\"";
+    struct Row
+    {
+        char const * ahead;
+        int line;
+    };
+    for (Row const row : {Row{"", 2}, Row{"\n\n\n", 5}, Row{" \r\n\t\r\v\n", 5}, Row{"# comment\n\n", 4},
+             Row{"\xEF\xBB\xBF\n\n", 4}, Row{"\n\n\xEF\xBB\xBF", 4}}) {
+        QString error = untouched;
+        EXPECT_FALSE(parseLutEffect(QByteArray(row.ahead) + "LUT_1D_SIZE 2\n0 oops 0\n", &error));
+        EXPECT_EQ(error, QString("line %1: %2").arg(row.line).arg(problem));
+        EXPECT_TRUE(parseLutEffect(row.ahead + table, nullptr)) << row.line;
+    }
 }
 
 TEST(ParseLutEffect, TakesTheWholeArrayZeroBytesAndAll)

@@ -69,7 +69,7 @@ Scanner::Scanner(std::string_view text)
     , m_end(text.data() + text.size())
 {
     constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
-    if (text.substr(0, byteOrderMark.size()) == byteOrderMark)
+    if (NextWord() && PeekWord().substr(0, byteOrderMark.size()) == byteOrderMark)
         m_at += byteOrderMark.size();
 }
 

@@ -20,7 +20,7 @@ namespace Quoril::Proc::LUT {
 class Scanner
 {
 public:
-    /// Starts at the front of the text, behind a UTF-8 byte order mark.
+    /// Starts at the first word of the text. A UTF-8 byte order mark in front of it is skipped.
     explicit Scanner(std::string_view text);
 
     /// Goes to the next word, over blanks, comments and line ends.

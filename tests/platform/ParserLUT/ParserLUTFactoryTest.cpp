@@ -27,6 +27,8 @@ TEST(ParserLUTFactory, TellsFormatByTheBeginning)
         {"LUT_IN_VIDEO_RANGE", "cube"},
         {"\n \r\n# comment\n\n\tLUT_1D_SIZE 2", "cube"},
         {"\xEF\xBB\xBFLUT_1D_SIZE 2", "cube"},
+        {"\r\n\n\xEF\xBB\xBFLUT_1D_SIZE 2", "cube"},
+        {"\xEF\xBB\xBF\n\n0 1023", "3dl"},
         {"3DMESH", "3dl"},
         {"# Generated\n0 64 128", "3dl"},
         {"0 1023", "3dl"},
@@ -59,6 +61,12 @@ TEST(ParserLUTFactory, GivesNullForEverythingElse)
     };
     for (auto const & text : texts)
         EXPECT_EQ(FormatOf(text), "none") << text;
+}
+
+TEST(ParserLUTFactory, TellsWhichFormatsThereAre)
+{
+    EXPECT_EQ(
+        ParserLUTFactory::UnknownFormat(), "begins like none of the formats that are read: cube, 3dl, spi3d, csp");
 }
 
 TEST(ParserLUTFactory, ParsersServeAnyNumberOfTexts)

@@ -25,6 +25,9 @@ public:
     /// that the text is a whole table.
     /// @return null if the text begins like none of the formats
     static std::unique_ptr<IParserLUT> GetParser(std::string const & text);
+
+    /// What is wrong with a text that there is no parser for, as the rest of a sentence that names the formats.
+    static std::string UnknownFormat();
 };
 
 } // namespace Quoril::Proc::LUT
