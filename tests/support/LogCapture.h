@@ -7,7 +7,7 @@
 
 #include <glog/logging.h>
 
-/// Collects the texts logged at severity ERROR during its lifetime, by any thread.
+/// Collects the texts logged at severities ERROR and WARNING during its lifetime, by any thread.
 class LogCapture : public google::LogSink
 {
 public:
@@ -17,6 +17,7 @@ public:
     LogCapture & operator=(LogCapture const &) = delete;
 
     std::vector<std::string> const & errors() const { return m_errors; }
+    std::vector<std::string> const & warnings() const { return m_warnings; }
 
     /// glog calls its sinks under a lock of its own.
     void send(google::LogSeverity severity, char const *, char const *, int, google::LogMessageTime const &,
@@ -24,8 +25,11 @@ public:
     {
         if (severity == google::GLOG_ERROR)
             m_errors.emplace_back(message, length);
+        if (severity == google::GLOG_WARNING)
+            m_warnings.emplace_back(message, length);
     }
 
 private:
     std::vector<std::string> m_errors;
+    std::vector<std::string> m_warnings;
 };

@@ -128,6 +128,12 @@ void registerResource(ID const & id, QString const & path, int index, MTime leng
     entries().byId.insert_or_assign(id, Registration{path, index, length, timing});
 }
 
+bool tryRegisterResource(ID const & id, QString const & path, int index, MTime length, Timing const & timing)
+{
+    std::unique_lock const lock(entries().mutex);
+    return entries().byId.try_emplace(id, Registration{path, index, length, timing}).second;
+}
+
 void unregisterResource(ID const & id)
 {
     std::unique_lock const lock(entries().mutex);

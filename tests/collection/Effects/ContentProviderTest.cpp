@@ -284,6 +284,40 @@ TEST_F(ContentProviderTest, AUsersLutWithoutItsBlobIsThereAllTheSame)
     EXPECT_FALSE(Resource::isResourceRegistered(resourceId("gone.cube")));
 }
 
+TEST_F(ContentProviderTest, AUsersBlobLeavesTheStocksOfItsNameAlone)
+{
+    ManualStorage const storage;
+    ContentProvider const provider;
+    Resource::ID const id = resourceId("AUsersBlobLeaves.cube");
+    touch(stock("Luts/AUsersBlobLeaves.cube"));
+    touch(user("Blobs/AUsersBlobLeaves.cube"));
+    storage.deliver(luts, lutWithFile(id, stock("Luts/AUsersBlobLeaves.cube")));
+    storage.deliver(userLuts, std::make_unique<Effect::Lut>(id.name()));
+    EXPECT_EQ(Resource::registeredPath(id.name()), stock("Luts/AUsersBlobLeaves.cube"));
+    EXPECT_THAT(CollectionProvider::collection("Luts")->items(), SizeIs(2));
+}
+
+TEST_F(ContentProviderTest, AUsersBlobMayLieDeeper)
+{
+    ManualStorage const storage;
+    ContentProvider const provider;
+    touch(user("Blobs/AUsersBlobMay/LieDeeper.cube"));
+    storage.deliver(userLuts, std::make_unique<Effect::Lut>("AUsersBlobMay/LieDeeper.cube"));
+    EXPECT_EQ(Resource::registeredPath("AUsersBlobMay/LieDeeper.cube"), user("Blobs/AUsersBlobMay/LieDeeper.cube"));
+    EXPECT_FALSE(Resource::isResourceRegistered(resourceId("LieDeeper.cube")));
+}
+
+TEST_F(ContentProviderTest, AUsersBlobIsNotTakenFromOutsideOfItsFolder)
+{
+    ManualStorage const storage;
+    ContentProvider const provider;
+    touch(user("../AUsersBlobIsOutside.cube"));
+    storage.deliver(userLuts, std::make_unique<Effect::Lut>("../../AUsersBlobIsOutside.cube"));
+    EXPECT_FALSE(Resource::isResourceRegistered(resourceId("../../AUsersBlobIsOutside.cube")));
+    EXPECT_FALSE(Resource::isResourceRegistered(resourceId("AUsersBlobIsOutside.cube")));
+    EXPECT_THAT(CollectionProvider::collection("Luts")->items(), SizeIs(1));
+}
+
 TEST_F(ContentProviderTest, AUsersLutFileIsNotRegisteredByItsPath)
 {
     ManualStorage const storage;

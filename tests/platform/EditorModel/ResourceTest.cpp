@@ -162,6 +162,19 @@ TEST_F(ResourceRegistry, RemembersWhatWasRegistered)
     Resource::unregisterResource(id);
 }
 
+TEST_F(ResourceRegistry, TheFirstStaysWhereItIsOnlyTried)
+{
+    ID const id("clip", Type::Video);
+    m_registered.push_back(id);
+    EXPECT_TRUE(Resource::tryRegisterResource(id, "/a/file", 2, MTime(40), {}));
+    EXPECT_FALSE(Resource::tryRegisterResource(id, "/another/file", 0, MTime(), {}));
+    EXPECT_EQ(Resource::registration(id)->path, "/a/file");
+    EXPECT_EQ(Resource::registration(id)->index, 2);
+    EXPECT_EQ(Resource::registration(id)->length, MTime(40));
+    m_registered.emplace_back("clip", Type::Audio);
+    EXPECT_TRUE(Resource::tryRegisterResource(m_registered.back(), "/another/file", 0, MTime(), {}));
+}
+
 TEST_F(ResourceRegistry, LooksForABlobFirst)
 {
     add("look", Type::Video, "/video");

@@ -114,6 +114,9 @@ struct Image
 /// @param length  zero when the resource has no length of its own
 EDITORMODEL_EXPORT void registerResource(
     ID const & id, QString const & path, int index, MTime length, Timing const & timing);
+/// The same, unless a file is registered under `id` already. Returns whether it was registered here.
+EDITORMODEL_EXPORT bool tryRegisterResource(
+    ID const & id, QString const & path, int index, MTime length, Timing const & timing);
 /// Takes a registration back; without one, does nothing.
 EDITORMODEL_EXPORT void unregisterResource(ID const & id);
 /// Whether a file is registered under that very name and type.
