@@ -7,6 +7,7 @@
 #include <EditorSettings/Settings.h>
 #include <EditorUtil/CategoriesConfig.h>
 #include <EditorUtil/CollectionHolder.h>
+#include <effects/Holder.h>
 #include <effects/Identity.h>
 #include <FileSystem/FileSystem.h>
 #include <utils/CollectionNames.h>
@@ -40,6 +41,16 @@ void addMissingCategories(ICollection & collection, IItem const & item)
             collection.addCategory(category, CategoriesConfig::thematicCategoryInfo(&collection));
 }
 
+/// The files that the effect and the effects in it refer to.
+void registerResources(Object const & effect)
+{
+    Utils::registerEffectResource(effect);
+    if (auto const * const holder = dynamic_cast<EffectsHolder const *>(&effect))
+        for (auto const & held : holder->effects)
+            if (held)
+                registerResources(*held);
+}
+
 void markAsUsers(IItem & item)
 {
     item.setUserFlagA(true);
@@ -58,7 +69,7 @@ void loadUserBlob(Object const & effect)
 
 void addStockItem(CollectionHolder const & holder, QString const & collectionName, serialize_ptr<IItem> && item)
 {
-    Utils::registerEffectResource(item->payload());
+    registerResources(item->payload());
     ICollection & collection = *holder.collection(collectionName);
     addMissingCategories(collection, *item);
     handOver(collection, std::move(item));

@@ -26,6 +26,7 @@ namespace {
 
 constexpr char const * categoriesKey = "categories";
 constexpr char const * effectKey = "effect";
+constexpr char const * resourcePathKey = "resourcePath"; // of `Effect::Object`
 
 /// Closes a file at the end of the scope.
 class Descriptor
@@ -95,6 +96,18 @@ std::unique_ptr<Effect::Object> effectOf(json const & document)
     return effect;
 }
 
+/// Calls `change` with the resource path of each effect in an archive document, those of held effects included. It goes
+/// by the key alone, wherever that is, since a reference may put an effect's base anywhere in the document.
+template <class Change> void forEachResourcePath(json & value, Change const & change)
+{
+    if (value.is_object())
+        if (auto const path = value.find(resourcePathKey); path != value.end() && path->is_string())
+            change(path->get_ref<std::string &>());
+    if (value.is_structured())
+        for (json & inner : value)
+            forEachResourcePath(inner, change);
+}
+
 std::set<QString> categoriesOf(json const & document)
 {
     std::set<QString> categories;
@@ -124,12 +137,16 @@ serialize_ptr<IItem> parseItem(std::string_view text, std::string const & folder
 {
     if (text.empty())
         throw std::runtime_error("is empty");
-    json const document = Serialize::Json::parse(text);
+    json document = Serialize::Json::parse(text);
     if (!document.is_object())
         throw std::runtime_error("is no JSON object");
     auto const archived = document.find(effectKey);
     if (archived == document.end())
         throw std::runtime_error("has no key \"effect\"");
+    forEachResourcePath(*archived, [&](std::string & path) {
+        if (!path.empty() && QDir::isRelativePath(QString::fromStdString(path)))
+            path = QDir::cleanPath(QString::fromStdString(folder + '/' + path)).toStdString();
+    });
 
     std::unique_ptr<Effect::Object> effect;
     try {
@@ -139,9 +156,6 @@ serialize_ptr<IItem> parseItem(std::string_view text, std::string const & folder
     }
     if (!effect)
         throw std::runtime_error("\"effect\" is null");
-    QString & resource = effect->resourcePath;
-    if (!resource.isEmpty() && QDir::isRelativePath(resource))
-        resource = QDir::cleanPath(QString::fromStdString(folder) + QLatin1Char('/') + resource);
     return makeItem(std::move(effect), categoriesOf(document), std::move(file));
 }
 
@@ -158,13 +172,12 @@ void storeItem(
     };
     json document;
     json & archived = document[effectKey] = documentOf(effect);
-    QString const start = place + QLatin1Char('/');
-    if (effect.resourcePath.startsWith(start)) {
-        // Effects cannot be copied through their base: the copy comes out of the document.
-        auto const moved = effectOf(archived);
-        moved->resourcePath.remove(0, start.size());
-        archived = documentOf(*moved);
-    }
+    std::string const start = place.toStdString() + '/';
+    forEachResourcePath(archived, [&](std::string & resource) {
+        bool const isInside = resource.size() > start.size() && resource.compare(0, start.size(), start) == 0;
+        if (isInside && resource[start.size()] != '/')
+            resource.erase(0, start.size());
+    });
     json & names = document[categoriesKey] = json::array();
     for (QString const & category : categories)
         names.push_back(category.toStdString());

@@ -238,6 +238,67 @@ TEST_F(ContentProviderTest, AStockItemsResourceIsRegistered)
     EXPECT_EQ(Resource::registeredPath(id.name()), stock("Luts/warm.cube"));
 }
 
+/// A holder with a shader in it and, in a holder inside, a LUT.
+class HolderItemTest : public ContentProviderTest
+{
+protected:
+    static Effect::EffectsHolder const & asHolder(Effect::Object const & effect)
+    {
+        return dynamic_cast<Effect::EffectsHolder const &>(effect);
+    }
+    static Effect::Object const & shaderIn(IItem const & item) { return *asHolder(item.payload()).effects.at(0); }
+    static Effect::Object const & lutIn(IItem const & item)
+    {
+        return *asHolder(*asHolder(item.payload()).effects.at(2)).effects.at(0);
+    }
+
+    static std::unique_ptr<Effect::EffectsHolder> holder(QString const & shaderPath, QString const & lutPath)
+    {
+        auto shader = std::make_unique<Effect::ShaderISF>("HolderItem.fs");
+        shader->resourcePath = shaderPath;
+        auto lut = std::make_unique<Effect::Lut>("HolderItem.cube");
+        lut->resourcePath = lutPath;
+        auto inside = std::make_unique<Effect::EffectsHolder>();
+        inside->addEffect(std::move(lut));
+        auto whole = std::make_unique<Effect::EffectsHolder>();
+        whole->addEffect(std::move(shader))->addEffect(nullptr)->addEffect(std::move(inside));
+        return whole;
+    }
+};
+
+TEST_F(HolderItemTest, PathsInsideAreRelativeToTheFolder)
+{
+    storeItem(stock("Masks"), "relative", *holder("shaders/HolderItem.fs", "../Luts/HolderItem.cube"));
+    auto const item = readItem(stock("Masks").toStdString(), "relative.effect.json");
+    EXPECT_EQ(shaderIn(*item).resourcePath, stock("Masks/shaders/HolderItem.fs"));
+    EXPECT_EQ(lutIn(*item).resourcePath, stock("Luts/HolderItem.cube"));
+}
+
+TEST_F(HolderItemTest, PathsIntoTheFolderAreStoredRelativeToIt)
+{
+    storeItem(stock("Masks"), "absolute", *holder(stock("Masks/shaders/HolderItem.fs"), stock("Luts/HolderItem.cube")));
+    QFile file(stock("Masks/absolute.effect.json"));
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    QByteArray const text = file.readAll();
+    EXPECT_TRUE(text.contains("\"resourcePath\": \"shaders/HolderItem.fs\"")) << text.toStdString();
+    EXPECT_TRUE(text.contains("\"resourcePath\": \"" + stock("Luts/HolderItem.cube").toUtf8() + '"'))
+        << text.toStdString();
+    auto const item = readItem(stock("Masks").toStdString(), "absolute.effect.json");
+    EXPECT_EQ(shaderIn(*item).resourcePath, stock("Masks/shaders/HolderItem.fs"));
+    EXPECT_EQ(lutIn(*item).resourcePath, stock("Luts/HolderItem.cube"));
+}
+
+TEST_F(HolderItemTest, ItsFilesAreRegistered)
+{
+    ManualStorage const storage;
+    ContentProvider const provider;
+    touch(stock("Masks/HolderItem.fs"));
+    touch(stock("Masks/HolderItem.cube"));
+    storage.deliver(masks, holder(stock("Masks/HolderItem.fs"), stock("Masks/HolderItem.cube")));
+    EXPECT_EQ(Resource::registeredPath("HolderItem.fs"), stock("Masks/HolderItem.fs"));
+    EXPECT_EQ(Resource::registeredPath("HolderItem.cube"), stock("Masks/HolderItem.cube"));
+}
+
 TEST_F(ContentProviderTest, AUsersColorFilterIsMarkedAndNothingElse)
 {
     ManualStorage const storage;

@@ -106,6 +106,21 @@ TEST(ParseItem, TakesResourcePathsRelativeToTheFolder)
     EXPECT_EQ(parseItem(withResource(""), "/folder")->payload().resourcePath, "");
 }
 
+TEST(ParseItem, TakesAResourcePathWhereverAReferencePutsIt)
+{
+    auto const item = parseItem(R"({"effect": {"$meta": {"class": "Sample::Effect"}, "Effect::Object": {"$meta": )"
+                                R"({"ref": 7}}, "aside": [{"$meta": {"id": 7}, "resourcePath": "warm.cube"}]}})",
+        "/folder");
+    EXPECT_EQ(item->payload().resourcePath, "/folder/warm.cube");
+}
+
+TEST(ParseItem, RefusesAResourcePathThatIsNoText)
+{
+    EXPECT_THAT(
+        problemOf(R"({"effect": {"$meta": {"class": "Sample::Effect"}, "Effect::Object": {"resourcePath": 3}}})"),
+        HasSubstr("/Effect::Object/resourcePath"));
+}
+
 TEST(ReadItem, ReadsAFile)
 {
     ItemFolder const folder;
@@ -195,7 +210,8 @@ TEST(StoreItem, WritesWhatReadItemReads)
 TEST(StoreItem, LeavesOtherResourcePathsAlone)
 {
     ItemFolder const folder;
-    for (QString const & path : {QString(""), QString("/elsewhere/a.png"), folder.path() + "2/a.png"}) {
+    for (QString const & path : {QString(""), QString("/elsewhere/a.png"), folder.path() + "2/a.png",
+             folder.path() + '/', folder.path() + "//a.png"}) {
         storeItem(folder.path(), "item", effectWithResource(path));
         EXPECT_EQ(readDocument(folder.file("item.effect.json"))["effect"]["Effect::Object"]["resourcePath"],
             path.toStdString());

@@ -7,6 +7,7 @@
 ///
 /// `effect` is the archive document of one effect, `categories` a list of texts that may be missing; other keys are
 /// skipped. The effect's `resourcePath`, when it is relative, is so to the file's folder: it is absolute in the item.
+/// So are those of the effects that it holds.
 #pragma once
 
 #include <cstdint>
