@@ -70,7 +70,9 @@ target_sources(EditorEffectsObjects PRIVATE
   serialization/Schema.cpp
   collection/Effects/ContentProvider.cpp
   collection/Effects/EffectSettings.cpp
+  collection/Effects/FactoryCaches.cpp
   collection/Effects/ImageHolder.cpp
+  collection/Effects/Loading.cpp
   collection/Effects/SettingsFactory.cpp
   utils/CollectionNames.cpp
   utils/EffectUtils.cpp

@@ -21,14 +21,29 @@ struct ISFSettings;
 
 namespace Effect::Factory {
 
-struct FactoryCaches
+/// Whatever cannot be had is logged in one line at severity WARNING each time that it is asked for, so that the log of
+/// a conversion tells what it went without, also where the file is not read again.
+class FactoryCaches
 {
-    /// By resource name; null for a text that is no table.
-    QMap<QString, std::shared_ptr<Quoril::Proc::LUT::LUTTable>> lutTables;
-    /// By resource name.
-    QMap<QString, std::shared_ptr<External::ShaderISF::ISFSettings>> isfSettings;
-    /// By path.
-    ImageHolder images;
+public:
+    /// The table in the blob of that name; null when there is none. A text that is no table is not read again; a file
+    /// that is missing or empty is.
+    std::shared_ptr<Quoril::Proc::LUT::LUTTable> lutTable(QString const & resourceName);
+
+    /// The shader that was loaded for that name first, whatever its path; never null.
+    std::shared_ptr<External::ShaderISF::ISFSettings> isfSettings(QString const & resourceName, QString const & path);
+
+    ImageHolder images; ///< by path
+
+private:
+    struct LutEntry
+    {
+        std::shared_ptr<Quoril::Proc::LUT::LUTTable> table;
+        QString problem; ///< why there is no table
+    };
+
+    QMap<QString, LutEntry> m_lutTables;                                            // by resource name
+    QMap<QString, std::shared_ptr<External::ShaderISF::ISFSettings>> m_isfSettings; // likewise
 };
 
 /// What a video conversion is given. Most need the render's parameters at most and take a `VideoParams const &`; one

@@ -2,7 +2,11 @@
 
 #include <utility>
 
+#include <collection/Effects/Loading.h>
+
+#include <QFileInfo>
 #include <QImage>
+#include <QImageReader>
 
 namespace Effect::Factory {
 
@@ -24,10 +28,29 @@ private:
 
 ImageHolder::Image const & ImageHolder::image(QString const & path)
 {
-    auto const found = m_images.find(path);
-    if (found != m_images.end())
-        return found->second;
-    return m_images.emplace(path, holdImage(QImage(path, "PNG"))).first->second;
+    auto found = m_images.find(path);
+    if (found == m_images.end())
+        found = m_images.emplace(path, load(path)).first;
+    if (!found->second.problem.isEmpty())
+        warnOfMissing("image", path, found->second.problem);
+    return found->second.image;
+}
+
+ImageHolder::Entry ImageHolder::load(QString const & path)
+{
+    QString problem;
+    QImage image;
+    // Opening a pipe would wait for its writer.
+    if (QFileInfo const file(path); !file.exists()) {
+        problem = QStringLiteral("no such file");
+    } else if (!file.isFile()) {
+        problem = QStringLiteral("is not a regular file");
+    } else {
+        QImageReader reader(path, "PNG");
+        if (!reader.read(&image))
+            problem = reader.errorString();
+    }
+    return {holdImage(std::move(image)), problem};
 }
 
 ImageHolder::Image holdImage(QImage decoded)

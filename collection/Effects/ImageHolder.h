@@ -24,11 +24,19 @@ public:
 
     /// The image at `path`, which is read as PNG whatever its name. The pixels are as Qt decodes them: 32 bits each
     /// without padding for a true-colour file. A file that is missing or broken gives an image without pixels, never
-    /// null, and is not tried again. The reference holds as long as the holder.
+    /// null, and is not tried again, but warned of each time. The reference holds as long as the holder.
     Image const & image(QString const & path);
 
 private:
-    std::map<QString, Image> m_images;
+    struct Entry
+    {
+        Image image;
+        QString problem; ///< why it has no pixels
+    };
+
+    static Entry load(QString const & path);
+
+    std::map<QString, Entry> m_images;
 };
 
 /// The engine's record of a decoded image, whose pixels it keeps alive.

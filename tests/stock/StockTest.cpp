@@ -240,6 +240,7 @@ void expectConversion(Effect::Object const & effect, std::string const & name)
     auto const converted = convert(effect);
     EXPECT_FALSE(converted.settings.empty()) << name;
     EXPECT_THAT(converted.log, IsEmpty()) << name;
+    EXPECT_THAT(converted.warnings, IsEmpty()) << name;
 }
 
 TEST_F(StockTest, EveryItemConverts)

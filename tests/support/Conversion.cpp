@@ -20,6 +20,7 @@ template <class Convert> Converted traced(Convert const & convert)
     for (auto const & settings : record.settings)
         converted.settings.push_back(trace.describe(*settings).toString());
     converted.log = log.errors();
+    converted.warnings = log.warnings();
     return converted;
 }
 

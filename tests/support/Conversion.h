@@ -20,7 +20,8 @@ struct Converted
     int stageCode = 0;
     std::string implementation;
     std::vector<std::string> settings;
-    std::vector<std::string> log; ///< at severity ERROR
+    std::vector<std::string> log;      ///< at severity ERROR
+    std::vector<std::string> warnings; ///< at severity WARNING
 };
 
 /// Converts through the installed factory.

@@ -1,13 +1,10 @@
-#include <optional>
-
 #include <collection/Effects/Conversions.h>
+#include <collection/Effects/Loading.h>
 #include <EditorExternalResourses/ShaderISF.h>
 #include <EditorModel/Resource.h>
 #include <effects/Identity.h>
 #include <effects/Shaders.h>
-#include <FileSystem/FileSystem.h>
 #include <Settings/SettingsShader.h>
-#include <utils/LutUtils.h>
 
 namespace Effect::Factory {
 
@@ -22,18 +19,14 @@ void main() {
 	gl_FragColor = texture2D(tex, TexCoord0);
 })";
 
-/// The text in a file, which ends at the first zero byte; nothing when the file is missing or empty.
-std::optional<QByteArray> resourceText(QString const & name)
-{
-    auto const blob = Resource::provideBlobResource(name, nullptr);
-    if (!blob || blob->data.isEmpty())
-        return std::nullopt;
-    return blob->data.mid(0, blob->data.indexOf('\0'));
-}
-
 std::string shaderText(QString const & name)
 {
-    auto const text = name.isEmpty() ? std::nullopt : resourceText(name);
+    if (name.isEmpty())
+        return passThroughShader;
+    QString problem;
+    auto const text = resourceText(name, problem);
+    if (!problem.isEmpty())
+        warnOfMissing("shader", name, problem);
     return text ? text->toStdString() : passThroughShader;
 }
 
@@ -43,9 +36,12 @@ ImageHolder::Image auxImage(QString const & name)
     Resource::ID const id(name, Resource::Type::Image);
     if (!id.isValid())
         return nullptr;
-    auto const image = Resource::provideImageResource(id.name(), nullptr);
-    if (!image || !image->pixmap || image->pixmap->isNull())
+    QString problem;
+    auto const image = Resource::provideImageResource(id.name(), &problem);
+    if (!image || !image->pixmap || image->pixmap->isNull()) {
+        warnOfMissing("image", name, problem);
         return nullptr;
+    }
     return holdImage(image->pixmap->toImage());
 }
 
@@ -69,31 +65,18 @@ void addShaders(Conversions & table)
         QString const & name = effect.resource.name();
         if (name.isEmpty())
             return;
-        auto & tables = context.caches.lutTables;
-        auto found = tables.constFind(name);
-        if (found == tables.constEnd()) {
-            // A file that may yet come is asked for again; what is no table need not be read twice.
-            auto const text = resourceText(name);
-            if (!text)
-                return;
-            found = tables.insert(name, Utils::parseLutEffect(*text, nullptr));
-        }
-        if (!*found)
+        auto const lut = context.caches.lutTable(name);
+        if (!lut)
             return;
         settings.intensity = floatIntensity(effect);
-        settings.SetTable(*found);
+        settings.SetTable(lut);
         settings.SetMode(Proc::SettingsEffectLUT::InterpolateMode::Linear);
     });
 
     table.add<ShaderISF, Proc::SettingsEffectISF>(
         Id::ShaderISF, [](auto & settings, ShaderISF const & effect, auto const & context) {
-            QString const & name = effect.resource.name();
-            auto & shaders = context.caches.isfSettings;
-            auto found = shaders.constFind(name);
-            if (found == shaders.constEnd())
-                found = shaders.insert(
-                    name, External::ShaderISF::loadEffectISF(name, FS::absolutePath(effect.resourcePath)));
-            External::ShaderISF::ISFSettings const & shader = **found;
+            auto const loaded = context.caches.isfSettings(effect.resource.name(), effect.resourcePath);
+            External::ShaderISF::ISFSettings const & shader = *loaded;
             settings.SetConfig(effect.inputs.empty() ? shader.config : effect.inputs);
             settings.SetPixelShader(shader.pixelShader);
             if (!shader.vertexShader.empty())

@@ -124,7 +124,7 @@ std::shared_ptr<ISFSettings> loadEffectISF(QString const & name, QString const &
     try {
         return std::make_shared<ISFSettings>(loadFile(findShader(name, absolutePath)));
     } catch (std::exception const & error) {
-        LOG(ERROR) << "Couldn't load ISF shader " << quotedText(name) << ": " << error.what();
+        LOG(WARNING) << "Couldn't load ISF shader " << quotedText(name) << ": " << error.what();
     }
     return std::make_shared<ISFSettings>();
 }

@@ -14,6 +14,7 @@
 #include <glog/logging.h>
 #include <nlohmann/json.hpp>
 
+#include <EditorSerialization/MessageText.h>
 #include <EditorSettings/Settings.h>
 #include <FileSystem/FileSystem.h>
 
@@ -263,8 +264,6 @@ Registry & registry()
 /// Empty where the identifier can name no file.
 QString trackPath(QString const & id)
 {
-    if (id.isEmpty())
-        return {};
     {
         Registry & tracks = registry();
         std::lock_guard const lock(tracks.mutex);
@@ -332,13 +331,16 @@ std::shared_ptr<Data const> loadTrackFile(QString const & path, QString * error)
 
 std::shared_ptr<Data const> loadTrackingData(QString const & id)
 {
-    QString const path = trackPath(id);
-    if (!FS::exists(path))
+    if (id.isEmpty())
         return nullptr;
     QString error;
-    std::shared_ptr<Data const> data = loadTrackFile(path, &error);
+    std::shared_ptr<Data const> data;
+    if (QString const path = trackPath(id); path.isEmpty())
+        error = QStringLiteral("\"%1\" cannot be the name of a file").arg(id);
+    else
+        data = loadTrackFile(path, &error);
     if (!data)
-        LOG(WARNING) << "Couldn't read motion track: " << error.toStdString();
+        LOG(WARNING) << "Couldn't read motion track: " << Serialize::messageText(error.toStdString());
     return data;
 }
 

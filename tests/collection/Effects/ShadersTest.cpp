@@ -273,7 +273,8 @@ TEST_F(IsfConversion, AFileThatCannotBeReadIsRememberedAsEmptyTexts)
     Converted const missing = convert(glow());
     EXPECT_EQ(missing.stageCode, 18);
     EXPECT_THAT(missing.settings, ElementsAre(empty));
-    EXPECT_THAT(missing.log, ElementsAre(testing::HasSubstr("glow.fs\": there is no such file")));
+    EXPECT_THAT(missing.warnings, ElementsAre(testing::HasSubstr("glow.fs\": there is no such file")));
+    EXPECT_THAT(missing.log, IsEmpty());
 
     resources.write("glow.fs", "/*{}*/late");
     Converted const again = convert(glow());

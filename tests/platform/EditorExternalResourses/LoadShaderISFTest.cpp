@@ -56,8 +56,9 @@ protected:
             EXPECT_EQ(settings->pixelShader, "");
             EXPECT_EQ(settings->vertexShader, "");
         }
-        EXPECT_EQ(log.errors().size(), 1u);
-        std::string const line = log.errors().empty() ? std::string() : log.errors().front();
+        EXPECT_THAT(log.errors(), ElementsAre());
+        EXPECT_EQ(log.warnings().size(), 1u);
+        std::string const line = log.warnings().empty() ? std::string() : log.warnings().front();
         EXPECT_THAT(line, Not(HasSubstr("\n")));
         EXPECT_EQ(QString::fromStdString(line).toStdString(), line) << "this is no UTF-8";
         return line;
@@ -77,6 +78,7 @@ TEST_F(LoadShaderISF, GivesTheThreeTexts)
     EXPECT_EQ(settings->pixelShader, "\nvoid main() {}\n");
     EXPECT_EQ(settings->vertexShader, "void main() { isf_vertShaderInit(); }\n");
     EXPECT_THAT(log.errors(), ElementsAre());
+    EXPECT_THAT(log.warnings(), ElementsAre());
 }
 
 TEST_F(LoadShaderISF, GivesEveryCallerItsOwnObject)

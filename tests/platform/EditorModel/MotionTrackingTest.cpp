@@ -223,7 +223,33 @@ TEST_F(MotionTrackFile, LoadsFromTheFolderById)
     EXPECT_TRUE(m_log.lines.empty());
 }
 
-TEST_F(MotionTrackFile, UnknownIdsAreSilentlyNull)
+TEST_F(MotionTrackFile, NoIdIsSilentlyNull)
+{
+    write("Tracks/.track.json", oneFrame);
+    EXPECT_EQ(MotionTracking::loadTrackingData(""), nullptr);
+    EXPECT_EQ(MotionTracking::loadTrackingData({}), nullptr);
+    EXPECT_TRUE(m_log.lines.empty());
+}
+
+TEST_F(MotionTrackFile, MissingFileIsNullAndOneWarning)
+{
+    for (char const * const id : {"unknown", "..", ".", "two\nlines"}) {
+        EXPECT_EQ(MotionTracking::loadTrackingData(id), nullptr);
+        std::string shown = path(QString("Tracks/%1.track.json").arg(id)).toStdString();
+        if (auto const end = shown.find('\n'); end != shown.npos)
+            shown.replace(end, 1, "\xEF\xBF\xBD");
+        EXPECT_THAT(m_log.lines, testing::ElementsAre(std::to_string(google::GLOG_WARNING) +
+                                                      " Couldn't read motion track: " + shown + ": no such file"));
+        m_log.lines.clear();
+    }
+    MotionTracking::registerTrack("car", path("gone.json"));
+    EXPECT_EQ(MotionTracking::loadTrackingData("car"), nullptr);
+    MotionTracking::unregisterTrack("car");
+    EXPECT_THAT(m_log.lines, testing::ElementsAre(HasSubstr(
+                                 "Couldn't read motion track: " + path("gone.json").toStdString() + ": no such file")));
+}
+
+TEST_F(MotionTrackFile, IdsThatNameNoFileAreNullAndOneWarning)
 {
     write("outside.track.json", oneFrame);
     write("Tracks/nul.track.json", oneFrame);
@@ -231,11 +257,21 @@ TEST_F(MotionTrackFile, UnknownIdsAreSilentlyNull)
     write("Tracks/sub/deep.track.json", oneFrame);
     write("Tracks/.track.json", oneFrame);
 
-    QString const ids[] = {"", "unknown", "../outside", "./nul", "sub/deep", "..\\outside", path("outside"), "..", ".",
-        QString("nul") + QChar(), QString("nul.track.json") + QChar(), QString(5000, 'x')};
-    for (QString const & id : ids)
+    QString const ids[] = {"../outside", "./nul", "sub/deep", "..\\outside", path("outside"), QString("nul") + QChar(),
+        QString("nul.track.json") + QChar()};
+    for (QString const & id : ids) {
         EXPECT_EQ(MotionTracking::loadTrackingData(id), nullptr) << id.toStdString();
-    EXPECT_TRUE(m_log.lines.empty());
+        EXPECT_THAT(m_log.lines, testing::ElementsAre(testing::EndsWith("\" cannot be the name of a file")));
+        m_log.lines.clear();
+    }
+    EXPECT_EQ(MotionTracking::loadTrackingData("sub/deep"), nullptr);
+    EXPECT_THAT(
+        m_log.lines, testing::ElementsAre(std::to_string(google::GLOG_WARNING) +
+                                          " Couldn't read motion track: \"sub/deep\" cannot be the name of a file"));
+    m_log.lines.clear();
+    EXPECT_EQ(MotionTracking::loadTrackingData(QString(100'000, 'x')), nullptr);
+    ASSERT_EQ(m_log.lines.size(), 1U);
+    EXPECT_LT(m_log.lines[0].size(), 2100U);
 }
 
 TEST_F(MotionTrackFile, BrokenFileIsNullAndOneWarning)
@@ -262,10 +298,10 @@ TEST_F(MotionTrackFile, RegisteredFileGoesAheadOfTheFolder)
     track = MotionTracking::loadTrackingData("car");
     ASSERT_NE(track, nullptr);
     EXPECT_EQ(track->frames().at(0).time, MTime(8));
+    EXPECT_TRUE(m_log.lines.empty());
 
     MotionTracking::registerTrack("car", path("gone.json"));
     EXPECT_EQ(MotionTracking::loadTrackingData("car"), nullptr);
-    EXPECT_TRUE(m_log.lines.empty());
 
     MotionTracking::unregisterTrack("car");
     track = MotionTracking::loadTrackingData("car");

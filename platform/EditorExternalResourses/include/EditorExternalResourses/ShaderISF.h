@@ -41,7 +41,7 @@ inline constexpr int maximumDepth = 32;
 /// Loads the effect from `absolutePath` as loadFile() does; an empty path stands for the file that the editor's
 /// resource registry holds under `name`, and a folder for the shader of that `name` within.
 ///
-/// Never returns null and never throws: for what it cannot read, it logs one line at severity ERROR that names the
+/// Never returns null and never throws: for what it cannot read, it logs one line at severity WARNING that names the
 /// file and the reason, and returns an object with three empty texts.
 EDITOREXTERNALRESOURSES_EXPORT std::shared_ptr<ISFSettings> loadEffectISF(
     QString const & name, QString const & absolutePath);

@@ -60,9 +60,9 @@ private:
 /// Reads the track of the identifier `id`: the file registered for it, else the one in `Settings::userTracksPath()`.
 /// The file is read anew by every call.
 ///
-/// Null when `id` is empty or names no file: a track that went missing is no error. Null as well, with one warning in
-/// the log, when there is a file but no track in it. In the folder an identifier is a plain file name, and one with a
-/// slash, a backslash or a NUL in it names no file. May be called from any thread.
+/// Null when `id` is empty: there is no track. Null as well, with one warning in the log, when the file is missing or
+/// holds no track. In the folder an identifier is a plain file name, and one with a slash, a backslash or a NUL in it
+/// names no file. May be called from any thread.
 EDITORMODEL_EXPORT std::shared_ptr<Data const> loadTrackingData(QString const & id);
 
 /// Puts the file at `path` in place of the one in the folder for the identifier `id`, which may be any text that is not
