@@ -43,7 +43,8 @@ extern QString const packs;
 extern QString const tools;
 } // namespace CollectionNames
 
-/// Categories come into being with the items that name them; these are the ones that the host has texts for.
+/// Categories come into being with the items that name them. These are the ones that a host refers to in code; the
+/// stock has more.
 namespace CategoryNames {
 extern QString const flyingObjects;
 extern QString const blur;

@@ -1,6 +1,9 @@
 #include <filesystem>
+#include <fstream>
+#include <iterator>
 #include <map>
 #include <memory>
+#include <regex>
 #include <set>
 #include <string>
 #include <utility>
@@ -22,6 +25,7 @@
 #include <effects/Retro.h>
 #include <support/Conversion.h>
 #include <support/LogCapture.h>
+#include <utils/CollectionNames.h>
 #include <utils/LutUtils.h>
 
 #include <QFileInfo>
@@ -189,6 +193,43 @@ TEST_F(StockTest, EveryItemIsFiledAndFound)
         EXPECT_EQ(collection->itemByTag(entry.effect().tag), &entry.item) << entry.name();
         EXPECT_FALSE(entry.item.userFlagA()) << entry.name();
     }
+}
+
+/// The names in back quotes, or as JSON texts, that begin as categories do.
+std::set<std::string> categoriesIn(std::string const & text)
+{
+    std::set<std::string> names;
+    std::regex const name("[`\"](category_\\w+|Vignettes)[`\"]");
+    for (std::sregex_iterator found(text.begin(), text.end(), name); found != std::sregex_iterator(); ++found)
+        names.insert((*found)[1]);
+    return names;
+}
+
+TEST_F(StockTest, TheDocumentsListItsCategories)
+{
+    std::ifstream file(EDITOR_DOCS "/authoring-stock-items.md");
+    std::string const page{std::istreambuf_iterator<char>(file), {}};
+    std::size_t const begin = page.find("\n## Categories\n");
+    ASSERT_NE(begin, page.npos);
+    std::set<std::string> const listed = categoriesIn(page.substr(begin, page.find("\n## ", begin + 1) - begin));
+
+    std::set<std::string> used;
+    for (auto const & entry : stock().entries())
+        for (QString const & category : entry.item.categories())
+            used.insert(category.toStdString());
+    EXPECT_GE(used.size(), 30U);
+    EXPECT_EQ(listed, used);
+
+    // The page's own examples are filed under them as well, but for the one that the editor gives the user's own.
+    std::set<std::string> examples = categoriesIn(page);
+    examples.erase("category_user");
+    EXPECT_EQ(examples, used);
+
+    // And so is what a host refers to in code.
+    using namespace Effect::CategoryNames;
+    for (QString const & constant : {flyingObjects, blur, addNoise, artistic, colorFilters, mosaic, lutCold, adjust,
+             overlayFrames, overlayShadows, lutWarm, retroMovie, vignettes, overlayCyberpunk, overlayArtsy, lightLeaks})
+        EXPECT_EQ(used.count(constant.toStdString()), 1U) << constant.toStdString();
 }
 
 TEST_F(StockTest, EveryIdentifierIsThatOfTheClass)
