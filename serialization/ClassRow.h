@@ -18,6 +18,7 @@ struct ClassRow
 {
     Serialize::Layout const * layout;
     std::type_info const & (*type)();
+    bool (*isInstance)(Serialize::ISerializable const & object); ///< of the class or of one that derives from it
     char const * text;
     ParameterTraits const * traits; ///< one for each field of the layout
     Inherited const * adjusted;     ///< fields of `Effect::Object`
@@ -62,6 +63,7 @@ template <class Class> inline constexpr auto adjustedOf = toArray<Inherited>(Cla
 template <class Class> constexpr ClassRow makeRow()
 {
     return {Serialize::Access::layout<Class>(), []() -> std::type_info const & { return typeid(Class); },
+        [](Serialize::ISerializable const & object) { return dynamic_cast<Class const *>(&object) != nullptr; },
         Class::describe().text, Detail::traitsOf<Class>.data(), Detail::adjustedOf<Class>.data(),
         Detail::adjustedOf<Class>.size()};
 }

@@ -195,6 +195,13 @@ public:
         return found == m_platform.end() ? *find(layout.name) : *found->second;
     }
 
+    /// Null for a class of the platform.
+    ClassRow const * row(std::string const & name) const
+    {
+        auto const found = m_rows.find(name);
+        return found == m_rows.end() ? nullptr : found->second;
+    }
+
     Class const * of(std::type_info const & type) const
     {
         auto const found = m_byType.find(type);
@@ -442,6 +449,8 @@ json contentOf(Layout const & layout, ISerializable const & object)
 /// A short form of a value, in ASCII, for an error message.
 std::string shown(json const & value)
 {
+    if (value.is_number_float() && !std::isfinite(value.get<double>()))
+        return saved(value.get<double>()).get<std::string>();
     constexpr std::size_t longest = 60;
     std::string text = value.dump(-1, ' ', true, json::error_handler_t::replace);
     if (text.size() > longest)
@@ -483,13 +492,13 @@ std::string allowedText(Parameter const & parameter)
     case Kind::Enumeration:
         return choicesText(parameter) + ", or " + integersText<std::int32_t>();
     case Kind::Transform:
-        return "nine numbers, as in {\"m\": [1, 0, 0, 0, 1, 0, 0, 0, 1]}";
+        return "nine finite numbers, as in {\"m\": [1, 0, 0, 0, 1, 0, 0, 0, 1]}";
     case Kind::Resource:
         return "an object with \"name\" and \"type\"";
     case Kind::Record:
         return parameter.layout->form == Form::OptionalRecord ? "an object or null" : "an object";
     case Kind::List:
-        return parameter.layout->form == Form::Doubles ? std::to_string(parameter.layout->count) + " numbers"
+        return parameter.layout->form == Form::Doubles ? std::to_string(parameter.layout->count) + " finite numbers"
                                                        : "an array of objects";
     case Kind::Real:
         text = "a finite number";
@@ -510,14 +519,35 @@ std::string allowedText(Parameter const & parameter)
     return text;
 }
 
+std::string nameOf(Parameter const & parameter)
+{
+    return "parameter \"" + parameter.key + "\" of " +
+           (parameter.classInfo ? parameter.classInfo->name : parameter.owner);
+}
+
 [[noreturn]] void refuse(Parameter const & parameter, json const & given, std::string const & detail = {})
 {
-    std::string text = "parameter \"" + parameter.key + "\" of " +
-                       (parameter.classInfo ? parameter.classInfo->name : parameter.owner) + ": " + shown(given) +
-                       " is given, allowed is " + allowedText(parameter);
+    std::string text = nameOf(parameter) + ": " + shown(given) + " is given, allowed is " + allowedText(parameter);
     if (!detail.empty())
         text += " (" + detail + ")";
     throw std::invalid_argument(text);
+}
+
+/// Runs `set`; what it refuses is refused with the place where it is.
+template <class Set> void within(std::string const & place, Set const & set)
+{
+    try {
+        set();
+    } catch (std::invalid_argument const & error) {
+        throw std::invalid_argument(place + ": " + error.what());
+    }
+}
+
+/// @param holder  a list or an optional record
+std::string elementOf(Parameter const & holder, std::size_t index)
+{
+    std::string const element = holder.kind == Kind::List ? "element " + std::to_string(index) + " of " : "";
+    return element + nameOf(holder);
 }
 
 /// The integer that `value` is; nothing for another value or one that `Integer` cannot hold.
@@ -557,28 +587,36 @@ std::optional<std::int32_t> choiceIn(json const & value, Parameter const & param
     return std::nullopt;
 }
 
+bool isRow(json const & value)
+{
+    return value.is_array() && value.size() == 3;
+}
+
 /// Nine numbers in the form of the archive; `value` where it is no shorter form of them.
 json transformIn(json const & value)
 {
     if (!value.is_array())
         return value;
     json flat = json::array();
-    for (json const & row : value)
-        if (row.is_array())
+    if (isRow(value) && std::all_of(value.begin(), value.end(), isRow))
+        for (json const & row : value)
             flat.insert(flat.end(), row.begin(), row.end());
-        else
-            flat.push_back(row);
+    else
+        flat = value;
     return {{"m", flat}};
+}
+
+/// Whether a number lies beyond the bounds of a parameter that refuses such numbers.
+bool isRefused(double number, Parameter const & parameter)
+{
+    return parameter.beyond == Beyond::Refused &&
+           ((parameter.minimum && number < *parameter.minimum) || (parameter.maximum && number > *parameter.maximum));
 }
 
 template <class T> void setInteger(void * address, json const & value, Parameter const & parameter)
 {
     auto const number = integerIn<T>(value);
-    if (!number)
-        refuse(parameter, value);
-    if (parameter.beyond == Beyond::Refused &&
-        ((parameter.minimum && static_cast<double>(*number) < *parameter.minimum) ||
-            (parameter.maximum && static_cast<double>(*number) > *parameter.maximum)))
+    if (!number || isRefused(static_cast<double>(*number), parameter))
         refuse(parameter, value);
     store(address, *number);
 }
@@ -606,25 +644,61 @@ void setText(void * address, json const & value, Parameter const & parameter)
 
 void set(ISerializable & object, Parameter const & parameter, json const & value);
 
+/// Whether `name` is that of a base of the class.
+bool hasBase(Class const & info, std::string_view name)
+{
+    for (Class const * base = find(info.base); base; base = find(base->base))
+        if (base->name == name)
+            return true;
+    return false;
+}
+
+/// Whether a meta object is absent, or is one of this class.
+bool isMetaOf(Class const & info, json const & meta)
+{
+    if (!meta.is_object())
+        return false;
+    auto const name = meta.find(Serialize::Json::MetaDetails::s_class_name);
+    return name == meta.end() || *name == info.name;
+}
+
 /// Sets the fields of a record from the keys that are there; others keep their values.
+/// @param info  the class of the object or one of its bases
 void setContent(ISerializable & object, Class const & info, json const & value, Parameter const & parameter)
 {
-    namespace Meta = Serialize::Json::MetaDetails;
     if (!value.is_object())
         refuse(parameter, value);
     for (auto const & [key, item] : value.items()) {
-        if (key == Meta::s_meta) {
-            if (item.is_object() && item.value(Meta::s_class_name, info.name) != info.name)
+        if (key == Serialize::Json::MetaDetails::s_meta) {
+            if (!isMetaOf(info, item))
                 refuse(parameter, value, "the class is not " + info.name);
-            continue;
-        }
-        if (auto const * const field = info.find(key))
+        } else if (hasBase(info, key)) {
+            setContent(object, *find(key), item, parameter);
+        } else if (auto const * const field = info.find(key)) {
             set(object, *field, item);
-        else if (Class const * const base = find(key); base && item.is_object())
-            setContent(object, info, item, parameter); // keys of a base are found from the class
-        else
+        } else {
             refuse(parameter, value, "there is no key \"" + key + '"');
+        }
     }
+}
+
+/// Sets a record, or throws and leaves it as it is.
+void setRecord(ISerializable & record, Parameter const & parameter, json const & value)
+{
+    Class const & info = tables().record(*parameter.layout->record);
+    setContent(*info.create(), info, value, parameter);
+    setContent(record, info, value, parameter);
+}
+
+/// Replaces the records in a list or in an optional by these, or throws and leaves them as they are.
+void replaceRecords(void * container, Parameter const & parameter, json const & values)
+{
+    Class const & info = tables().record(*parameter.layout->record);
+    for (std::size_t index = 0; index < values.size(); ++index)
+        within(elementOf(parameter, index), [&] { setContent(*info.create(), info, values[index], parameter); });
+    parameter.layout->container->clear(container);
+    for (json const & value : values)
+        setContent(*parameter.layout->container->append(container), info, value, parameter);
 }
 
 void setObjects(void * address, json const & value, Parameter const & parameter)
@@ -638,7 +712,7 @@ void setObjects(void * address, json const & value, Parameter const & parameter)
             Serialize::Json::iarchive archive(item);
             archive >> effect;
         } catch (std::exception const & error) {
-            refuse(parameter, item, error.what());
+            within(elementOf(parameter, objects.size()), [&] { refuse(parameter, item, error.what()); });
         }
         objects.push_back(std::move(effect));
     }
@@ -647,7 +721,7 @@ void setObjects(void * address, json const & value, Parameter const & parameter)
         parameter.layout->container->adopt(address, std::move(item));
 }
 
-/// Sets the value, which may be left half set when this throws.
+/// Sets the value, or throws and leaves the object as it is.
 void set(ISerializable & object, Parameter const & parameter, json const & value)
 {
     FieldLayout const & field = *parameter.layout;
@@ -673,8 +747,7 @@ void set(ISerializable & object, Parameter const & parameter, json const & value
         break;
     case Form::Double: {
         double const number = finiteNumber(value, parameter);
-        if (parameter.beyond == Beyond::Refused &&
-            ((parameter.minimum && number < *parameter.minimum) || (parameter.maximum && number > *parameter.maximum)))
+        if (isRefused(number, parameter))
             refuse(parameter, value);
         store(address, number);
         break;
@@ -683,29 +756,30 @@ void set(ISerializable & object, Parameter const & parameter, json const & value
     case Form::Bytes:
         setText(address, value, parameter);
         break;
-    case Form::Doubles:
+    case Form::Doubles: {
         if (!value.is_array() || value.size() != field.count)
             refuse(parameter, value);
-        for (std::size_t index = 0; index < field.count; ++index)
-            static_cast<double *>(address)[index] = finiteNumber(value[index], parameter);
-        break;
-    case Form::Record: {
-        auto & record = *static_cast<ISerializable *>(address);
-        setContent(record, tables().record(*field.record),
-            parameter.kind == Kind::Transform ? transformIn(value) : value, parameter);
+        std::vector<double> numbers;
+        for (json const & number : value)
+            numbers.push_back(finiteNumber(number, parameter));
+        std::copy(numbers.begin(), numbers.end(), static_cast<double *>(address));
         break;
     }
+    case Form::Record:
+        if (json const content = parameter.kind == Kind::Transform ? transformIn(value) : value; content.is_object())
+            within(nameOf(parameter), [&] { setRecord(*static_cast<ISerializable *>(address), parameter, content); });
+        else
+            refuse(parameter, value);
+        break;
     case Form::OptionalRecord:
-        field.container->clear(address);
-        if (!value.is_null())
-            setContent(*field.container->append(address), tables().record(*field.record), value, parameter);
+        if (!value.is_null() && !value.is_object())
+            refuse(parameter, value);
+        replaceRecords(address, parameter, value.is_null() ? json::array() : json::array({value}));
         break;
     case Form::Records:
         if (!value.is_array())
             refuse(parameter, value);
-        field.container->clear(address);
-        for (json const & item : value)
-            setContent(*field.container->append(address), tables().record(*field.record), item, parameter);
+        replaceRecords(address, parameter, value);
         break;
     case Form::Objects:
         setObjects(address, value, parameter);
@@ -718,9 +792,11 @@ bool hasParameter(ISerializable const & object, Parameter const & parameter)
     if (Class const * const info = of(object))
         return std::any_of(info->parameters.begin(), info->parameters.end(),
             [&](Parameter const & own) { return own.layout == parameter.layout; });
-    // A class of the platform or of the host.
-    return object.GetNameInArchive() == parameter.owner ||
-           (parameter.owner == Object::NameInArchive() && dynamic_cast<Object const *>(&object));
+    // A record of the platform, or a class of the host that may derive from the owner.
+    if (parameter.owner == Object::NameInArchive())
+        return dynamic_cast<Object const *>(&object) != nullptr;
+    ClassRow const * const owner = tables().row(parameter.owner);
+    return owner ? owner->isInstance(object) : object.GetNameInArchive() == parameter.owner;
 }
 
 /// Throws unless the object has the parameter.
@@ -854,10 +930,6 @@ json value(ISerializable const & object, Parameter const & parameter)
 void setValue(ISerializable & object, Parameter const & parameter, json const & value)
 {
     checkOwner(object, parameter);
-    // Tried on another object first where the value could be left half set.
-    if (parameter.layout->form >= Form::Doubles && parameter.layout->form != Form::Objects)
-        if (auto const trial = Serialize::Registry::create(object.GetNameInArchive()))
-            set(*trial, parameter, value);
     set(object, parameter, value);
 }
 
