@@ -490,7 +490,8 @@ std::string allowedText(Parameter const & parameter)
     case Kind::Color:
         return "\"#rrggbb\", \"#aarrggbb\" or " + integersText<std::uint32_t>();
     case Kind::Enumeration:
-        return choicesText(parameter) + ", or " + integersText<std::int32_t>();
+        return choicesText(parameter) +
+               (parameter.beyond == Beyond::Refused ? "" : ", or " + integersText<std::int32_t>());
     case Kind::Transform:
         return "nine finite numbers, as in {\"m\": [1, 0, 0, 0, 1, 0, 0, 0, 1]}";
     case Kind::Resource:
@@ -606,11 +607,14 @@ json transformIn(json const & value)
     return {{"m", flat}};
 }
 
-/// Whether a number lies beyond the bounds of a parameter that refuses such numbers.
+/// Whether a number lies beyond the bounds, or is none of the choices, of a parameter that refuses such numbers.
 bool isRefused(double number, Parameter const & parameter)
 {
-    return parameter.beyond == Beyond::Refused &&
-           ((parameter.minimum && number < *parameter.minimum) || (parameter.maximum && number > *parameter.maximum));
+    if (parameter.beyond != Beyond::Refused)
+        return false;
+    auto const isIt = [&](Choice const & choice) { return choice.value == number; };
+    return (parameter.minimum && number < *parameter.minimum) || (parameter.maximum && number > *parameter.maximum) ||
+           (!parameter.choices.empty() && std::none_of(parameter.choices.begin(), parameter.choices.end(), isIt));
 }
 
 template <class T> void setInteger(void * address, json const & value, Parameter const & parameter)

@@ -486,6 +486,8 @@ void prove(Subject subject, Random & random)
     bool const isBounded = parameter.minimum || parameter.maximum;
     ASSERT_TRUE(parameter.isEffective.has_value());
     ASSERT_EQ(parameter.beyond.has_value(), isBounded || !parameter.choices.empty());
+    ASSERT_TRUE(!parameter.beyond || parameter.kind == Kind::Integer || parameter.kind == Kind::Real ||
+                parameter.kind == Kind::Time || parameter.kind == Kind::Enumeration);
     proveEffectiveness(subject, random);
     if (!parameter.beyond)
         return;

@@ -596,6 +596,45 @@ TEST_P(EveryClass, RefusesBadValuesAndStaysAsItIs)
         }
 }
 
+TEST(SetValue, RefusesNumbersBeyondWhereTheDescriptionSaysSo)
+{
+    auto const strict = [](char const * className, char const * key, double least, double most) {
+        Parameter parameter = parameterOf(className, key);
+        parameter.beyond = Beyond::Refused;
+        if (parameter.choices.empty()) {
+            parameter.minimum = least;
+            parameter.maximum = most;
+        }
+        return parameter;
+    };
+    Opacity opacity;
+    Parameter const real = strict("Effect::Opacity", "opacity", 0.25, 0.5);
+    EXPECT_THAT(refusal(opacity, real, 0.125), HasSubstr("a finite number, at least 0.25, at most 0.5"));
+    EXPECT_NE(refusal(opacity, real, 0.625), "");
+    EXPECT_EQ(opacity.opacity, 1);
+    for (double const bound : {0.25, 0.5}) {
+        setValue(opacity, real, bound);
+        EXPECT_EQ(opacity.opacity, bound);
+    }
+
+    ChromaKey key;
+    Parameter const integer = strict("Effect::ChromaKey", "harshness", -2, 3);
+    EXPECT_THAT(refusal(key, integer, -3), HasSubstr("2147483647, at least -2, at most 3"));
+    EXPECT_NE(refusal(key, integer, 4), "");
+    EXPECT_EQ(key.harshness, 1);
+    for (int const bound : {-2, 3}) {
+        setValue(key, integer, bound);
+        EXPECT_EQ(key.harshness, bound);
+    }
+
+    FrameConceal frame;
+    Parameter const choice = strict("Effect::FrameConceal", "method", 0, 0);
+    setValue(frame, choice, 1);
+    EXPECT_THAT(refusal(frame, choice, 3), testing::EndsWith("one of Fill (0), Blur (1), Pixelate (2)"));
+    EXPECT_NE(refusal(frame, choice, -1), "");
+    EXPECT_EQ(frame.method, FrameConceal::Method::Blur);
+}
+
 TEST(SetValue, RefusesKeysOfOtherClassesInAnElement)
 {
     Mask mask;
