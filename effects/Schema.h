@@ -159,8 +159,8 @@ EFFECTS_API Class const * of(Serialize::ISerializable const & object);
 EFFECTS_API nlohmann::json value(Serialize::ISerializable const & object, Parameter const & parameter);
 
 /// Sets a parameter. Besides the form of the archive document, an enumeration takes the name of a choice, a colour
-/// takes
-/// "#rrggbb" or "#aarrggbb", and a transform takes its nine numbers, flat or in three rows.
+/// "#rrggbb" or "#aarrggbb", and a transform its nine numbers, flat or in three rows. Fields that the value of a record
+/// does not mention are kept; an optional record and the elements of a list are made anew, with defaults for those.
 ///
 /// Throws `std::invalid_argument`, which names the parameter, what was given and what is allowed, for a value of
 /// another type, for a number that is out of the type's range, not finite, or refused, and for an object of another
