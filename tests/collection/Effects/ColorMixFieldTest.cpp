@@ -1,5 +1,6 @@
 // A host that has the class which the library only names: this program, outside of the shared library.
 
+#include <limits>
 #include <string>
 #include <typeinfo>
 
@@ -93,6 +94,38 @@ TEST_F(ColorMixFieldOfAHost, IsConvertedAsABase)
     effect.color = 3;
     EXPECT_EQ(converted(effect), R"({"class": "SettingsEffectColorMixField", "calls": [["SetThreshold", -1], )"
                                  R"(["SetContrast", 2], ["SetFieldColor", 0, 0, 3]], "fields": {}})");
+}
+
+TEST_F(ColorMixFieldOfAHost, PassesItsNumbersAsTheyAre)
+{
+    struct
+    {
+        double number;
+        char const * passed;
+    } const rows[] = {
+        // Neither is a number of single precision.
+        {0.1, "0.1"},
+        {1e300, "1e+300"},
+        {-5e-324, "-5e-324"},
+        {-0.0, "-0"},
+        {std::numeric_limits<double>::infinity(), "inf"},
+        {std::numeric_limits<double>::quiet_NaN(), "nan"},
+    };
+    for (auto const & row : rows) {
+        std::string const number = row.passed;
+        ColorMixField effect;
+        effect.threshold = row.number;
+        effect.contrast = 3;
+        effect.color = 0x00010203;
+        EXPECT_EQ(converted(effect), R"({"class": "SettingsEffectColorMixField", "calls": [["SetThreshold", )" +
+                                         number +
+                                         R"(], ["SetContrast", 3], ["SetFieldColor", 1, 2, 3]], "fields": {}})");
+        effect.threshold = 3;
+        effect.contrast = row.number;
+        EXPECT_EQ(converted(effect), R"({"class": "SettingsEffectColorMixField", "calls": [["SetThreshold", 3], )"
+                                     R"(["SetContrast", )" +
+                                         number + R"(], ["SetFieldColor", 1, 2, 3]], "fields": {}})");
+    }
 }
 
 TEST_F(ColorMixFieldOfAHost, IsConvertedAfterItsWayThroughAnArchive)

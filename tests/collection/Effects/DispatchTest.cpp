@@ -300,6 +300,19 @@ TEST_P(Dispatch, NeitherGroupNorTagIsLookedAt)
     }
 }
 
+TEST(DispatchTables, HaveARowForAClassThatOnlyAHostCanHave)
+{
+    Factory::SettingsFactory const factory;
+    Invert other;
+    other.id = Id::ColorMixField;
+    EXPECT_THROW(convertVideo(other), std::bad_cast);
+    EXPECT_THROW(convertVideo(VideoEffect(Id::ColorMixField, Id::ColorMixField)), std::bad_cast);
+    EXPECT_THAT(convertVideo(EffectDescriptor(Id::ColorMixField, Id::ColorMixField, Type::Video)).log,
+        ElementsAre("Settings requested for descriptor. Effect ID is 4675ad3e-cffd-4979-ae1f-5cbf07e8cbdd"));
+    EXPECT_THAT(convertAudio(other).log, ElementsAre("Couldn't provide settings for unknown effect. Effect ID is "
+                                                     "4675ad3e-cffd-4979-ae1f-5cbf07e8cbdd"));
+}
+
 /// A host's shader that knows better than its field.
 struct HostShader final : ExternalShader
 {

@@ -1,4 +1,5 @@
-// Matrices and lists on their way to the settings: every entry in its place, as it is, whatever number it holds.
+// Matrices and lists on their way to the settings: every entry in its place, as it is, whatever number it holds. These
+// tests run twice, as those of the numbers do.
 
 #include <array>
 #include <cmath>
@@ -116,7 +117,9 @@ TEST_F(MatricesAndLists, PictureInPictureIsMovedByAnyEntryAlone)
         }
         PictureInPicture atRest;
         atRest.transform[entry] += 5e-13;
-        EXPECT_TRUE(at<SettingsEffectSubFrame>(Factory::videoEffectSettings(atRest, {}), 0).IsEmpty()) << entry;
+        SettingsEffectSubFrame const untouched;
+        EXPECT_TRUE(at<SettingsEffectSubFrame>(Factory::videoEffectSettings(atRest, {}), 0).IsEqualTo(untouched))
+            << entry;
     }
 }
 
