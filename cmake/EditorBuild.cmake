@@ -24,7 +24,14 @@ if(CCACHE_PROGRAM AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
   set(CMAKE_CXX_COMPILER_LAUNCHER "${CCACHE_PROGRAM}")
 endif()
 
-# Where the editor's libraries live: their names are common words.
+# The editor's own libraries.
+set(EDITOR_PLATFORM_LIBRARIES
+  MTime FileSystem Utils ConfInt EditorSerialization EditorModel ParserLUT Settings
+  EditorUtil EditorSettings EditorExternalResourses)
+# Their names are common words, and to the loader two libraries of one name are the same library. So that a process can
+# hold a host's own libSettings.so.1 as well, their files carry this project's name and are installed in a folder of
+# their own.
+set(EDITOR_PLATFORM_PREFIX EditorEffects)
 set(EDITOR_PLATFORM_LIBDIR "${CMAKE_INSTALL_LIBDIR}/EditorEffects")
 set(EDITOR_INCLUDEDIR "${CMAKE_INSTALL_INCLUDEDIR}/EditorEffects")
 
@@ -52,6 +59,7 @@ function(editor_platform_library name)
   target_link_libraries(${name} PUBLIC ${arg_PUBLIC} PRIVATE ${arg_PRIVATE} $<BUILD_INTERFACE:EditorBuildFlags>)
   generate_export_header(${name} EXPORT_FILE_NAME "${CMAKE_CURRENT_BINARY_DIR}/include/${name}/Export.h")
   set_target_properties(${name} PROPERTIES
+    OUTPUT_NAME "${EDITOR_PLATFORM_PREFIX}${name}"
     VERSION ${PROJECT_VERSION}
     SOVERSION ${PROJECT_VERSION_MAJOR}
     INSTALL_RPATH "$ORIGIN")

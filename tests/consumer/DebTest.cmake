@@ -28,9 +28,10 @@ package(libeditoreffects1 ${linked})
 package(libeditoreffects-dev "${runtime_version}" "libboost-serialization-dev" "qtbase5-dev" "nlohmann-json3-dev")
 package(effectctl "${runtime_version}" ${linked})
 
-# The editor's libraries have common words for names: none of them lies where the linker looks.
-expect_in("${libeditoreffects1}" "/EditorEffects/libUtils.so.1 -> libUtils.so.${VERSION}" libeditoreffects1)
-string(REGEX MATCH "/usr/lib(/[^/ ]+-linux-gnu[^/ ]*)?/lib(Utils|Settings|FileSystem)[.]so" loose "${libeditoreffects1}")
+# The editor's libraries are this library's own: none of them lies where the linker looks.
+expect_in("${libeditoreffects1}" "/EditorEffects/libEditorEffectsUtils.so.1 -> libEditorEffectsUtils.so.${VERSION}"
+  libeditoreffects1)
+string(REGEX MATCH "/usr/lib(/[^/ ]+-linux-gnu[^/ ]*)?/libEditorEffects[A-Z][A-Za-z]*[.]so" loose "${libeditoreffects1}")
 if(loose)
   fail("${loose} lies beside everybody's libraries")
 endif()

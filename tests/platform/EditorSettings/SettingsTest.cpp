@@ -131,7 +131,7 @@ TEST_P(InstalledSettingsTest, FindsTheStockOfItsOwnPrefix)
 {
     QTemporaryDir const prefix;
     QString const root = QFileInfo(prefix.path()).canonicalFilePath();
-    QString const library = root + '/' + GetParam() + "/libEditorSettings.so.1";
+    QString const library = root + '/' + GetParam() + "/libEditorEffectsEditorSettings.so.1";
     QString const stockFolder = root + "/share/EditorEffects/stock";
     ASSERT_TRUE(QDir().mkpath(root + '/' + GetParam()));
     ASSERT_TRUE(QDir().mkpath(stockFolder));
