@@ -61,6 +61,9 @@ function(add_families)
   endforeach()
 endfunction()
 
+# A host may call whatever the headers declare, so all of the editor's libraries are linked along with this one.
+list(TRANSFORM EDITOR_PLATFORM_LIBRARIES PREPEND Editor:: OUTPUT_VARIABLE editor_libraries)
+
 add_library(EditorEffectsObjects OBJECT)
 add_families(${exported_families})
 target_sources(EditorEffectsObjects PRIVATE effects/Identity.cpp)
@@ -80,12 +83,7 @@ target_sources(EditorEffectsObjects PRIVATE
 )
 target_include_directories(EditorEffectsObjects PUBLIC
   "$<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>" "$<BUILD_INTERFACE:${EDITOREFFECTS_GENERATED}>")
-target_link_libraries(EditorEffectsObjects
-  PUBLIC
-    Editor::EditorModel Editor::EditorSerialization Editor::EditorUtil Editor::Settings Editor::MTime Qt5::Core Qt5::Gui
-  PRIVATE
-    Editor::ConfInt Editor::Utils Editor::ParserLUT Editor::EditorSettings Editor::EditorExternalResourses
-    Editor::FileSystem glog::glog EditorBuildFlags)
+target_link_libraries(EditorEffectsObjects PUBLIC ${editor_libraries} Qt5::Core Qt5::Gui PRIVATE glog::glog EditorBuildFlags)
 if(NOT CMAKE_DISABLE_PRECOMPILE_HEADERS)
   target_precompile_headers(EditorEffectsObjects PRIVATE
     <EditorModel/EffectObject.h> <EditorSerialization/BinaryArchive.h> <EditorSerialization/JsonArchive.h>
@@ -103,11 +101,12 @@ target_include_directories(EditorEffects PUBLIC
   "$<BUILD_INTERFACE:${EDITOREFFECTS_GENERATED}>"
   "$<INSTALL_INTERFACE:${EDITOR_INCLUDEDIR}>")
 target_link_libraries(EditorEffects
-  PUBLIC
-    Editor::EditorModel Editor::EditorSerialization Editor::EditorUtil Editor::Settings Editor::MTime Qt5::Core Qt5::Gui
-  PRIVATE
-    Editor::ConfInt Editor::Utils Editor::ParserLUT Editor::EditorSettings Editor::EditorExternalResourses
-    Editor::FileSystem glog::glog)
+  PUBLIC ${editor_libraries} Qt5::Core Qt5::Gui
+  PRIVATE glog::glog
+  # Loading the library registers the effects, so a program can depend on it without calling anything in it. Linkers
+  # that default to --as-needed would drop it then; named like this, it is kept. A single item, because CMake may reorder
+  # several.
+  INTERFACE "-Wl,--push-state,--no-as-needed,$<TARGET_FILE:$<TARGET_NAME:EditorEffects>>,--pop-state")
 target_link_options(EditorEffects PRIVATE "LINKER:--version-script=${PROJECT_SOURCE_DIR}/cmake/exports.map")
 set_target_properties(EditorEffects PROPERTIES
   LINK_DEPENDS "${PROJECT_SOURCE_DIR}/cmake/exports.map"

@@ -58,6 +58,8 @@ endforeach()
 editor_cmake_package(EditorEffects)
 if(EDITOREFFECTS_PLATFORM STREQUAL "embedded")
   editor_cmake_package(EditorPlatform)
+  list(TRANSFORM EDITOR_PLATFORM_LIBRARIES PREPEND "-l${EDITOR_PLATFORM_PREFIX}" OUTPUT_VARIABLE platform_flags)
+  string(JOIN " " platform_flags ${platform_flags})
   configure_file(cmake/EditorEffects.pc.in package/EditorEffects.pc @ONLY)
   install(FILES "${PROJECT_BINARY_DIR}/package/EditorEffects.pc"
     DESTINATION "${CMAKE_INSTALL_LIBDIR}/pkgconfig" COMPONENT development)
