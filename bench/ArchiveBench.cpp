@@ -319,7 +319,7 @@ namespace {
 
 void countEffects(benchmark::State & state)
 {
-    state.SetItemsProcessed(static_cast<std::int64_t>(state.iterations() * effectCount));
+    state.SetItemsProcessed(state.iterations() * static_cast<std::int64_t>(effectCount));
 }
 
 // ---- JSON

@@ -107,7 +107,9 @@ target_link_libraries(EditorEffects
   # that default to --as-needed would drop it then; named like this, it is kept. A single item, because CMake may reorder
   # several.
   INTERFACE "-Wl,--push-state,--no-as-needed,$<TARGET_FILE:$<TARGET_NAME:EditorEffects>>,--pop-state")
-target_link_options(EditorEffects PRIVATE "LINKER:--version-script=${PROJECT_SOURCE_DIR}/cmake/exports.map")
+# The library needs those of the editor's libraries that it calls, also where the compiler does not pass --as-needed.
+target_link_options(EditorEffects PRIVATE
+  "LINKER:--as-needed" "LINKER:--version-script=${PROJECT_SOURCE_DIR}/cmake/exports.map")
 set_target_properties(EditorEffects PROPERTIES
   LINK_DEPENDS "${PROJECT_SOURCE_DIR}/cmake/exports.map"
   VERSION ${PROJECT_VERSION}

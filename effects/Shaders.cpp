@@ -7,12 +7,15 @@ namespace Effect {
 namespace {
 
 /// What names the file until the host names another.
-constexpr QLatin1String noResource("no resource");
+QString noResource()
+{
+    return QStringLiteral("no resource");
+}
 
 } // namespace
 
 Lut::Lut()
-    : Lut(noResource)
+    : Lut(noResource())
 {}
 
 Lut::Lut(QString const & name)
@@ -23,7 +26,7 @@ Lut::Lut(QString const & name)
 }
 
 ShaderISF::ShaderISF()
-    : ShaderISF(noResource)
+    : ShaderISF(noResource())
 {}
 
 ShaderISF::ShaderISF(QString const & name)

@@ -74,7 +74,7 @@ TEST(AudioNoiseGate, RangeIsNoFieldOfItsOwn)
 template <class Effect> class DynamicsArchive : public testing::Test
 {};
 using Processors = testing::Types<AudioNoiseGate, AudioCompressor>;
-TYPED_TEST_SUITE(DynamicsArchive, Processors);
+TYPED_TEST_SUITE(DynamicsArchive, Processors, );
 
 TYPED_TEST(DynamicsArchive, EveryFieldSurvives)
 {

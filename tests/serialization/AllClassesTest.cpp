@@ -197,8 +197,9 @@ TYPED_TEST(AllClassesTest, BinaryByPointer)
     std::unique_ptr<ISerializable> null = created("Effect::VideoEffect");
     archive >> object >> null;
     ASSERT_NE(object, nullptr);
-    EXPECT_EQ(typeid(*object), typeid(TypeParam));
-    EXPECT_EQ(documentOf(*object), documentOf(*this->first));
+    ISerializable const & read = *object;
+    EXPECT_EQ(typeid(read), typeid(TypeParam));
+    EXPECT_EQ(documentOf(read), documentOf(*this->first));
     EXPECT_EQ(null, nullptr);
     // The second pointer leads to the same object.
     ISerializable * again = nullptr;

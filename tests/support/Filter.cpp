@@ -31,7 +31,8 @@ void expectForm(FilterForm const & form)
 
     auto const made = Serialize::Registry::create(form.archiveName);
     ASSERT_NE(made, nullptr);
-    EXPECT_EQ(typeid(*made), typeid(effect));
+    Serialize::ISerializable const & madeObject = *made;
+    EXPECT_EQ(typeid(madeObject), typeid(effect));
 
     json document = json::parse(Archive::toJson(effect));
     json const fields = json::parse(form.fields);
@@ -44,7 +45,8 @@ void expectForm(FilterForm const & form)
     json const otherFields = json::parse(form.otherFields);
     document.update(otherFields);
     auto const other = Archive::fromJson(document.dump());
-    EXPECT_EQ(typeid(*other), typeid(effect));
+    Effect::Object const & otherObject = *other;
+    EXPECT_EQ(typeid(otherObject), typeid(effect));
     EXPECT_EQ(json::parse(Archive::toJson(*other)), document);
 
     std::string const bytes = Archive::toBinary(*other);

@@ -24,10 +24,10 @@ Serialize::Registrator const parcel(Parcel::NameInArchive(), new Creator<Parcel>
 
 std::unique_ptr<Node> nested(int depth)
 {
-    auto node = std::make_unique<Node>();
+    auto root = std::make_unique<Node>();
     if (depth > 1)
-        node->children.push_back(nested(depth - 1));
-    return node;
+        root->children.push_back(nested(depth - 1));
+    return root;
 }
 
 } // namespace Host

@@ -212,7 +212,7 @@ TEST(Settings, ReadsSettingsAndDataMembers)
 TEST(Settings, ReadsNestedForms)
 {
     SettingsAudioRadio radio;
-    radio.Deserialize({{"EqSettings", Value::Object{{"Multiband", Value::List{Value::List{31, 0.5}}}}}});
+    radio.Deserialize({{"EqSettings", Value::Object{{"Multiband", Value::List{Value(Value::List{31, 0.5})}}}}});
     auto const bands = radio.GetEqSettings().GetMultiband();
     ASSERT_EQ(bands.size(), 1u);
     EXPECT_EQ(bands[0].centralFrequency, 31);
