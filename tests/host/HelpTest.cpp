@@ -23,6 +23,7 @@ using Testing::runProgram;
 using Testing::shell;
 using Testing::Terminal;
 using testing::UnorderedElementsAreArray;
+using Testing::whyNoTerminal;
 
 using Words = std::set<std::string>;
 
@@ -190,6 +191,8 @@ std::string completedBy(std::vector<std::string> command, std::string const & se
 
 TEST(Completion, WorksInBash)
 {
+    if (auto const reason = whyNoTerminal(); !reason.empty())
+        GTEST_SKIP() << reason;
     EXPECT_THAT(completedBy({"bash", "--norc", "--noprofile", "-i"},
                     "source " + hostFolder.toStdString() + "/completion/effectctl.bash"),
         HasSubstr("\"class\": \"Effect::Crop\""));
@@ -199,6 +202,8 @@ TEST(Completion, WorksInZsh)
 {
     if (isMissing("zsh"))
         GTEST_SKIP() << "there is no zsh";
+    if (auto const reason = whyNoTerminal(); !reason.empty())
+        GTEST_SKIP() << reason;
     EXPECT_EQ(runProgram("zsh", {"-n", hostFolder + "/completion/_effectctl"}).status, 0);
     EXPECT_THAT(completedBy({"zsh", "-f", "-i"},
                     "fpath=(" + hostFolder.toStdString() + "/completion $fpath); autoload -U compinit; compinit -u -D"),

@@ -2,13 +2,15 @@
 /// Programs on a terminal.
 #pragma once
 
+#include <cerrno>
 #include <chrono>
+#include <cstdlib>
+#include <cstring>
 #include <functional>
 #include <map>
 #include <string>
+#include <system_error>
 #include <vector>
-
-#include <cstdlib>
 
 #include <fcntl.h>
 #include <poll.h>
@@ -20,6 +22,18 @@
 
 namespace Testing {
 
+/// Why this process cannot open a pseudo-terminal; empty when it can. Containers often have none.
+inline std::string whyNoTerminal()
+{
+    int ours = -1;
+    int theirs = -1;
+    if (::openpty(&ours, &theirs, nullptr, nullptr, nullptr) != 0)
+        return std::string("a pseudo-terminal cannot be opened: ") + std::strerror(errno);
+    ::close(ours);
+    ::close(theirs);
+    return {};
+}
+
 /// A program whose standard streams are a terminal of 80 columns, but for those led elsewhere.
 class Terminal
 {
@@ -30,15 +44,17 @@ public:
         std::string outputFile;                         ///< instead of the terminal, where it is not empty
     };
 
+    /// Throws `std::system_error` where no pseudo-terminal can be opened.
     Terminal(std::vector<std::string> command, Setup const & setup)
     {
         winsize size{};
         size.ws_row = 24;
         size.ws_col = 80;
         m_child = forkpty(&m_descriptor, nullptr, nullptr, &size);
+        if (m_child < 0)
+            throw std::system_error(errno, std::generic_category(), "forkpty");
         if (m_child == 0)
             become(std::move(command), setup);
-        EXPECT_GT(m_child, 0);
     }
     ~Terminal()
     {

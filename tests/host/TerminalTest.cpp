@@ -2,6 +2,7 @@
 #include <fstream>
 #include <thread>
 
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -25,9 +26,39 @@ using testing::Not;
 using Testing::onTerminal;
 using testing::StartsWith;
 using Testing::Terminal;
+using Testing::whyNoTerminal;
 
 constexpr char const * bar = "[#";
 constexpr char const * wipe = "\r\033[K";
+
+/// While it lives, this process opens no more files, and so no terminal.
+class WithoutFiles
+{
+public:
+    WithoutFiles()
+    {
+        EXPECT_EQ(getrlimit(RLIMIT_NOFILE, &m_previous), 0);
+        rlimit const none{0, m_previous.rlim_max};
+        EXPECT_EQ(setrlimit(RLIMIT_NOFILE, &none), 0);
+    }
+    ~WithoutFiles() { setrlimit(RLIMIT_NOFILE, &m_previous); }
+    WithoutFiles(WithoutFiles const &) = delete;
+    WithoutFiles & operator=(WithoutFiles const &) = delete;
+
+private:
+    rlimit m_previous{};
+};
+
+TEST(TerminalSupport, AMissingTerminalIsReportedAtOnce)
+{
+    std::string reason;
+    {
+        WithoutFiles const none;
+        reason = whyNoTerminal();
+        EXPECT_THROW(Terminal({EFFECTCTL, "--version"}, {}), std::system_error);
+    }
+    EXPECT_EQ(reason, "a pseudo-terminal cannot be opened: Too many open files");
+}
 
 /// Two tables whose names differ in length.
 class TerminalTest : public testing::Test
@@ -35,6 +66,8 @@ class TerminalTest : public testing::Test
 protected:
     void SetUp() override
     {
+        if (auto const reason = whyNoTerminal(); !reason.empty())
+            GTEST_SKIP() << reason;
         files.write("curve.cube", "TITLE \"Warm\"\nLUT_1D_SIZE 2\n0 0 0\n1 1 1\n");
         files.write("cube.cube", "LUT_3D_SIZE 2\n" + QByteArray("0 0 0\n").repeated(8));
     }
@@ -121,7 +154,6 @@ protected:
 TEST_F(ProgressTest, LongWorkShowsABarAndWipesIt)
 {
     std::string const screen = slowly({{}, path("out.txt")}, std::chrono::milliseconds(1500));
-    // Two of four are done when the pipe is; the bar is 40 wide.
     // Two of four are done when the pipe is; the bar is 40 wide.
     EXPECT_THAT(
         screen, HasSubstr("\rReading tables [" + std::string(20, '#') + std::string(20, '-') + "] 2 of 4\033[K"));
