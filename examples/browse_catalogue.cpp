@@ -8,10 +8,21 @@
 #include <iostream>
 #include <map>
 
+#include <QFileInfo>
+
 int main(int argc, char ** argv)
 {
+    if (argc > 2) {
+        std::cerr << "usage: browse_catalogue [STOCK_FOLDER]\n";
+        return 2;
+    }
     if (argc > 1)
-        Settings::setStockRoot(QString::fromLocal8Bit(argv[1]));
+        Settings::setStockRoot(QFile::decodeName(argv[1]));
+    // A folder that is missing is no error to the storage: it has no items.
+    if (!QFileInfo(Settings::stockLutEffectsPath()).isDir()) {
+        std::cerr << Settings::stockLutEffectsPath().toStdString() << ": no such folder\n";
+        return 1;
+    }
     EditorCollection::ItemStorage storage;
     EditorCollection::CollectionProvider::setItemStorage(&storage);
     {

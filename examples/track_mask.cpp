@@ -8,10 +8,21 @@
 
 #include <iostream>
 
+#include <QFile>
+
 int main(int argc, char ** argv)
 {
-    QString const folder = argc > 1 ? QString::fromLocal8Bit(argv[1]) : "tracks";
-    MotionTracking::registerTrack("face", folder + "/face.track.json");
+    if (argc != 2) {
+        std::cerr << "usage: track_mask TRACK_FILE\n";
+        return 2;
+    }
+    QString const track = QFile::decodeName(argv[1]);
+    // A mask whose track is missing or broken converts all the same, and its frame does not move.
+    if (QString error; !MotionTracking::loadTrackFile(track, &error)) {
+        std::cerr << error.toStdString() << '\n';
+        return 1;
+    }
+    MotionTracking::registerTrack("face", track);
     EditorCollection::NullItemStorage noItems;
     EditorCollection::CollectionProvider::setItemStorage(&noItems);
     Effect::ContentProvider const provider;

@@ -1,9 +1,18 @@
-# Runs PROGRAM with ARGUMENTS and compares what it prints with the text in EXPECTED.
-execute_process(COMMAND ${PROGRAM} ${ARGUMENTS} OUTPUT_VARIABLE output RESULT_VARIABLE result)
-if(NOT result EQUAL 0)
-  message(FATAL_ERROR "${PROGRAM} ended with ${result}:\n${output}")
+# Runs PROGRAM with ARGUMENTS. It must print the text in the file EXPECTED; with STATUS, it must instead print nothing,
+# end with that status and write one line to standard error, which begins with MESSAGE.
+execute_process(COMMAND ${PROGRAM} ${ARGUMENTS} OUTPUT_VARIABLE output ERROR_VARIABLE errors RESULT_VARIABLE result)
+if(DEFINED STATUS)
+  set(expected "")
+  string(FIND "${errors}" "${MESSAGE}" position)
+  if(NOT result STREQUAL STATUS OR NOT position EQUAL 0 OR NOT errors MATCHES "^[^\n]+\n$")
+    message(FATAL_ERROR "${PROGRAM} ended with ${result} and wrote\n${errors}\nand not with ${STATUS} and\n${MESSAGE}")
+  endif()
+else()
+  file(READ "${EXPECTED}" expected)
+  if(NOT result EQUAL 0)
+    message(FATAL_ERROR "${PROGRAM} ended with ${result}:\n${output}${errors}")
+  endif()
 endif()
-file(READ "${EXPECTED}" expected)
 if(NOT output STREQUAL expected)
   message(FATAL_ERROR "${PROGRAM} printed\n${output}\nand not\n${expected}")
 endif()
