@@ -1,5 +1,4 @@
 #include <cerrno>
-#include <cstdlib>
 #include <cstring>
 #include <iostream>
 
@@ -82,8 +81,6 @@ int main(int argc, char ** argv)
     Host::StandardOutput output;
     Host::startMessages(argv[0], Host::complain);
     qInstallMessageHandler(handleMessage);
-    // Pictures are read, and nothing is shown.
-    setenv("QT_QPA_PLATFORM", "offscreen", 0);
 
     CLI::App program("Reads, writes, converts and lists the effects of a video editor.", "effectctl");
     program.require_subcommand(1);

@@ -50,6 +50,16 @@ EditorCollection::IItemStorage & noItems()
 
 struct RenderHost::State
 {
+    /// Nothing is ever shown: whatever the environment says, neither a display nor a desktop's theme is used.
+    struct Offscreen
+    {
+        Offscreen()
+        {
+            qputenv("QT_QPA_PLATFORM", "offscreen");
+            qunsetenv("QT_QPA_PLATFORMTHEME");
+        }
+    };
+
     /// The process's storage while it lives.
     struct Installed
     {
@@ -64,6 +74,7 @@ struct RenderHost::State
         : installed(storage)
     {}
 
+    Offscreen offscreen;
     // Pictures cannot be made without an application.
     int argumentCount = 1;
     char name[10] = "effectctl";

@@ -6,8 +6,8 @@ set -euo pipefail
 root=$(cd -- "$(dirname -- "${BASH_SOURCE[0]}")/.." && pwd)
 jobs=$(nproc)
 
-# Nothing here opens a window, and a build machine seldom has a display.
-export QT_QPA_PLATFORM="${QT_QPA_PLATFORM:-offscreen}"
+# Nothing here opens a window, so the display that the environment names, which may not be reachable, is not used.
+export QT_QPA_PLATFORM=offscreen
 
 # Read by programs that are built with the address sanitizer, and by no others.
 export LSAN_OPTIONS="${LSAN_OPTIONS:-suppressions=$root/cmake/leaks.supp:print_suppressions=0}"

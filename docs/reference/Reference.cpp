@@ -1,6 +1,6 @@
 // Writes docs/reference.md, the page of all effects, from the library's own descriptions of them.
 
-#include <cstdlib>
+#include <cstdio>
 #include <fstream>
 #include <iostream>
 #include <map>
@@ -287,7 +287,6 @@ int main(int argc, char ** argv)
     program.add_option("--check", current, "Compare the page with this file, instead of printing it");
     CLI11_PARSE(program, argc, argv);
     Host::startMessages(argv[0], [](std::string_view message) { std::cerr << message << '\n'; });
-    setenv("QT_QPA_PLATFORM", "offscreen", 0);
     try {
         std::string const page = makePage(QString::fromStdString(stock));
         if (!current.empty())

@@ -110,6 +110,19 @@ TEST(Output, AReaderThatLeavesIsNoFault)
     EXPECT_EQ(held.errors, "");
 }
 
+TEST(Display, IsNeverUsed)
+{
+    for (char const * const platform : {"wayland", "xcb", "none-such", ""}) {
+        auto const run =
+            shell(QString("unset DISPLAY; QT_QPA_PLATFORM=%1 $effectctl convert --class Effect::Blur").arg(platform));
+        EXPECT_EQ(run.status, 0) << platform;
+        EXPECT_THAT(run.output, StartsWith("Effect::Blur: stage 18, DEFAULT\n")) << platform;
+        EXPECT_EQ(run.errors, "") << platform;
+    }
+    EXPECT_EQ(
+        shell("QT_QPA_PLATFORM=xcb; source " SCRIPT_FOLDER "/lib.sh; echo $QT_QPA_PLATFORM").output, "offscreen\n");
+}
+
 TEST(ListCommand, DescribesEveryClass)
 {
     auto const run = effectctl({"list", "--json"});
