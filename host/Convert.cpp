@@ -135,7 +135,7 @@ void convertFiles(RenderHost & host, Options const & options)
             printFileHeading(record["file"]);
         printRecords(record);
     };
-    endWith(describeFiles(options, files, {"Converting", describe, print, true}));
+    endWith(describeFiles(options, files, {"Converting", describe, print}));
 }
 
 void convertClass(RenderHost & host, Options const & options)
@@ -263,8 +263,7 @@ void addConvert(CLI::App & program)
     command->add_option("--track", options->tracks, "Make a file the motion track of that identifier")
         ->option_text("ID=FILE ...")
         ->check(checkPair);
-    command->add_flag(
-        "--json", options->asJson, std::string(filesAsJson) + "; for --class or a single file, the object alone");
+    command->add_flag("--json", options->asJson, std::string(filesAsJson) + "; for --class, the object alone");
     setExamples(*command,
         "  effectctl convert blur.json\n"
         "  effectctl convert --class Effect::Blur --set intensity=20\n"

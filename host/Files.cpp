@@ -235,13 +235,8 @@ bool describeFiles(FileOptions const & options, std::vector<File> const & files,
         }
     }
     Progress::hide();
-    // By how the arguments are written, not by what a folder happens to hold, which would be a trap for scripts.
-    bool const isAlone = task.oneAlone && files.size() == 1 && options.arguments.size() == 1 &&
-                         files.front().name == options.arguments.front();
-    if (options.asJson && !isAlone)
+    if (options.asJson)
         printJson(documents);
-    else if (options.asJson && allDone)
-        printJson(documents.front());
     return allDone;
 }
 

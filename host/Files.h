@@ -61,7 +61,6 @@ struct FileTask
     std::string work;                                            ///< what it does, such as "Converting"
     std::function<nlohmann::json(std::string const &)> describe; ///< what there is to say of a file, an object
     std::function<void(nlohmann::json const &)> print;           ///< says it; "file" in it is the file
-    bool oneAlone = false; ///< a single file that is named as it is gives its object, in no array
 };
 
 /// Adds FILE to a command.
