@@ -3,6 +3,7 @@
 #include "Command.h"
 #include "Documents.h"
 #include "Files.h"
+#include "Output.h"
 
 namespace Host {
 
@@ -37,7 +38,7 @@ void archive(Options const & options)
     if (form == binaryForm)
         writeFile(options.to, Effect::Archive::toBinary(*effect));
     else
-        writeFile(options.to, document(*effect).dump(2) + "\n");
+        writeFile(options.to, toText(document(*effect), 2) + "\n");
 }
 
 } // namespace

@@ -151,7 +151,7 @@ void printCollection(json const & collection)
     auto const cell = [](std::string const & text) {
         if (text.empty())
             return std::string("-");
-        return text.find(' ') == text.npos ? quoted(text) : json(text).dump();
+        return text.find(' ') == text.npos ? quoted(text) : toText(text);
     };
     for (json const & item : items) {
         std::string categories;
@@ -224,7 +224,7 @@ void catalogue(Options const & options)
                 convertItem(host, item->payload(), described, summary);
             if (described.contains("reason"))
                 failures.emplace_back(name + ": " + described["class"].get<std::string>() + ' ' +
-                                      described["tag"].dump() +
+                                      toText(described["tag"]) +
                                       " did not convert: " + described["reason"].get<std::string>());
             items.push_back(std::move(described));
         }

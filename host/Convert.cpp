@@ -10,6 +10,7 @@
 
 #include "Command.h"
 #include "Documents.h"
+#include "FileNames.h"
 #include "Files.h"
 #include "Output.h"
 #include "RenderHost.h"
@@ -74,11 +75,11 @@ void printRecord(json const & record)
         for (json const & call : settings["calls"]) {
             std::cout << "    " << call[0].get<std::string>() << '(';
             for (std::size_t index = 1; index < call.size(); ++index)
-                std::cout << (index > 1 ? ", " : "") << call[index].dump();
+                std::cout << (index > 1 ? ", " : "") << toText(call[index]);
             std::cout << ")\n";
         }
         for (auto const & [key, value] : settings["fields"].items())
-            std::cout << "    " << painted(Look::Dim, key) << " = " << value.dump() << '\n';
+            std::cout << "    " << painted(Look::Dim, key) << " = " << toText(value) << '\n';
     }
     for (json const & line : record["log"])
         std::cout << "  " << line.get<std::string>() << '\n';
@@ -218,8 +219,8 @@ void convertBatch(RenderHost & host)
             answer = {{"class", request.is_object() && request.contains("class") ? request["class"] : json()},
                 {"error", error.what()}};
         }
-        // Flushed, since whoever sends requests may wait for the answer to one before sending the next.
-        std::cout << answer.dump() << std::endl;
+        // Flushed, since the sender may wait for the answer to one request before it sends the next.
+        std::cout << toText(answer) << std::endl;
     }
 }
 
@@ -228,12 +229,12 @@ void convert(Options const & options)
     RenderHost host;
     for (std::string const & pair : options.resources) {
         auto const [name, file] = halves(pair);
-        Resource::registerResource(Resource::ID(QString::fromStdString(name), Resource::Type::Blob),
-            QString::fromStdString(file), 0, MTime(), Resource::Timing());
+        Resource::registerResource(Resource::ID(QString::fromStdString(name), Resource::Type::Blob), fileName(file), 0,
+            MTime(), Resource::Timing());
     }
     for (std::string const & pair : options.tracks) {
         auto const [id, file] = halves(pair);
-        MotionTracking::registerTrack(QString::fromStdString(id), QString::fromStdString(file));
+        MotionTracking::registerTrack(QString::fromStdString(id), fileName(file));
     }
     if (options.batch)
         convertBatch(host);

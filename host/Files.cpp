@@ -14,6 +14,7 @@
 
 #include "Command.h"
 #include "Documents.h"
+#include "FileNames.h"
 #include "Output.h"
 #include "Progress.h"
 
@@ -51,7 +52,7 @@ std::unique_ptr<Effect::Object> readDocument(std::string const & path, std::stri
 {
     if (!isItem(Serialize::Json::parse(text)))
         return Effect::Archive::fromJson(text);
-    QString const folder = QFileInfo(path == standardStream ? QString() : QString::fromStdString(path)).absolutePath();
+    QString const folder = QFileInfo(path == standardStream ? QString() : fileName(path)).absolutePath();
     auto const item = EditorCollection::parseItem(text, folder.toStdString());
     // The item keeps its effect, and effects are copied through their documents.
     return effectOf(document(item->payload()));
@@ -63,14 +64,6 @@ bool endsInOneOf(std::string const & name, std::vector<std::string> const & suff
     return std::any_of(suffixes.begin(), suffixes.end(), [&text](std::string const & suffix) {
         return text.endsWith(QString::fromStdString(suffix), Qt::CaseInsensitive);
     });
-}
-
-std::string joined(std::vector<std::string> const & words, std::string const & between)
-{
-    std::string text;
-    for (std::string const & word : words)
-        text += (text.empty() ? "" : between) + word;
-    return text;
 }
 
 void addFolder(std::string const & folder, std::vector<std::string> const & suffixes, std::vector<File> & files)
@@ -109,7 +102,7 @@ std::vector<std::string> matchesOf(std::string const & pattern)
 
 std::string readFile(std::string const & path)
 {
-    QFile file(QString::fromStdString(path));
+    QFile file(fileName(path));
     if (!(path == standardStream ? file.open(stdin, QIODevice::ReadOnly) : file.open(QIODevice::ReadOnly)))
         fail(path, file);
     // A device may be endless and a pipe does not tell its size, so the limit is found out by reading.
@@ -127,7 +120,7 @@ void writeFile(std::string const & path, std::string_view bytes)
         std::cout << bytes;
         return;
     }
-    QSaveFile file(QString::fromStdString(path));
+    QSaveFile file(fileName(path));
     if (!file.open(QIODevice::WriteOnly) ||
         file.write(bytes.data(), static_cast<qint64>(bytes.size())) != static_cast<qint64>(bytes.size()) ||
         !file.commit())

@@ -35,7 +35,7 @@ json describe(std::string const & file)
 std::string sizeText(json const & size)
 {
     bool const is1D = size[1] == 1 && size[2] == 1;
-    return is1D ? size[0].dump() : size[0].dump() + 'x' + size[1].dump() + 'x' + size[2].dump();
+    return is1D ? toText(size[0]) : toText(size[0]) + 'x' + toText(size[1]) + 'x' + toText(size[2]);
 }
 
 void lut(FileOptions const & options)
@@ -44,7 +44,7 @@ void lut(FileOptions const & options)
     bool const allDone = describeFiles(options,
         expand(options.arguments, {LUT::fileSuffixes.begin(), LUT::fileSuffixes.end()}),
         {"Reading tables", describe, [&rows](json const & table) {
-             rows.push_back({quoted(table["file"]), table["format"], sizeText(table["size"]), table["title"].dump()});
+             rows.push_back({quoted(table["file"]), table["format"], sizeText(table["size"]), toText(table["title"])});
          }});
     if (rows.size() > 1)
         printTable(rows);

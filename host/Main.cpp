@@ -6,6 +6,7 @@
 #include <unistd.h>
 
 #include "Command.h"
+#include "FileNames.h"
 #include "Messages.h"
 #include "Output.h"
 
@@ -78,6 +79,7 @@ int run(CLI::App & program, int argc, char ** argv)
 int main(int argc, char ** argv)
 {
     fillClosedStreams();
+    Host::keepFileNames();
     Host::StandardOutput output;
     Host::startMessages(argv[0], Host::complain);
     qInstallMessageHandler(handleMessage);

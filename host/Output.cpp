@@ -137,7 +137,7 @@ int StandardOutput::sync()
 void complain(std::string_view reason)
 {
     static std::string const name = hasColours(STDERR_FILENO) ? std::string(red) + "effectctl:" + plain : "effectctl:";
-    std::string line(reason);
+    std::string line = asText(reason);
     // A file's name and what it holds may be anything, and this is one line on a terminal.
     std::replace_if(line.begin(), line.end(), isControl, '?');
     Progress::hide();
@@ -145,19 +145,32 @@ void complain(std::string_view reason)
     std::cerr << name + ' ' + line + '\n';
 }
 
-std::string asText(std::string const & bytes)
+std::string asText(std::string_view bytes)
 {
-    return QString::fromStdString(bytes).toStdString();
+    return QString::fromUtf8(bytes.data(), static_cast<int>(bytes.size())).toStdString();
 }
 
 std::string quoted(std::string const & text)
 {
-    return std::any_of(text.begin(), text.end(), isControl) ? json(text).dump() : text;
+    return std::any_of(text.begin(), text.end(), isControl) ? toText(text) : text;
+}
+
+std::string joined(std::vector<std::string> const & words, std::string const & between)
+{
+    std::string text;
+    for (std::string const & word : words)
+        text += (text.empty() ? "" : between) + word;
+    return text;
+}
+
+std::string toText(json const & value, int indent)
+{
+    return value.dump(indent, ' ', false, json::error_handler_t::replace);
 }
 
 void printJson(json const & document)
 {
-    std::cout << document.dump(indentWidth) << '\n';
+    std::cout << toText(document, indentWidth) << '\n';
 }
 
 void printTable(std::vector<std::vector<std::string>> const & rows)
@@ -206,7 +219,7 @@ void printDocument(json const & document, int indent)
                     std::cout << margin(indent + 2 * indentWidth) << "(empty)\n";
             }
         } else {
-            std::cout << value->dump() << '\n';
+            std::cout << toText(*value) << '\n';
         }
     }
 }

@@ -56,14 +56,22 @@ private:
     int m_error = 0;
 };
 
-/// Tells what went wrong, in one line on standard error.
+/// Writes what went wrong to standard error, as one line of UTF-8.
 void complain(std::string_view reason);
 
-/// The same with a replacement character for every byte that is no UTF-8: a document has no place for it.
-std::string asText(std::string const & bytes);
+/// The text with a replacement character for every byte that is no UTF-8.
+std::string asText(std::string_view bytes);
 
-/// A text that may hold anything, as a line can bear it: a JSON text where there are control characters in it.
+/// A text for use within a line: as JSON where there are control characters in it.
 std::string quoted(std::string const & text);
+
+/// The words with `between` between them.
+std::string joined(std::vector<std::string> const & words, std::string const & between);
+
+/// A JSON text in UTF-8, whatever bytes are in the value's own texts: they may come from any file. Never throws for
+/// what they hold.
+/// @param indent  of each level; without one the text is a single line
+std::string toText(nlohmann::json const & value, int indent = -1);
 
 /// @name On standard output
 /// @{

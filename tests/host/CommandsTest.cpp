@@ -22,11 +22,8 @@ using testing::HasSubstr;
 using Testing::shell;
 using testing::StartsWith;
 
-std::vector<json> batch(QByteArray const & requests)
+std::vector<json> answersOf(Testing::Run const & run)
 {
-    auto const run = effectctl({"convert", "--batch"}, requests);
-    EXPECT_EQ(run.status, 0) << run.errors;
-    EXPECT_EQ(run.errors, "");
     std::vector<json> answers;
     std::istringstream lines(run.output);
     for (std::string line; std::getline(lines, line);)
@@ -34,9 +31,17 @@ std::vector<json> batch(QByteArray const & requests)
     return answers;
 }
 
-json answer(QByteArray const & request)
+std::vector<json> batch(QByteArray const & requests, QStringList const & options = {})
 {
-    auto const answers = batch(request + "\n");
+    auto const run = effectctl(QStringList{"convert", "--batch"} + options, requests);
+    EXPECT_EQ(run.status, 0) << run.errors;
+    EXPECT_EQ(run.errors, "");
+    return answersOf(run);
+}
+
+json answer(QByteArray const & request, QStringList const & options = {})
+{
+    auto const answers = batch(request + "\n", options);
     return answers.size() == 1 ? answers[0] : json();
 }
 
@@ -412,6 +417,32 @@ TEST(BatchConversion, GoesOnBehindALineThatCannotBeDone)
     EXPECT_THAT(answers[4]["error"], HasSubstr("no effect"));
     EXPECT_THAT(answers[5]["error"], HasSubstr("\"as\""));
     EXPECT_EQ(answers[6]["settings"][0]["fields"]["opacity"], "-Infinity");
+}
+
+TEST(BatchConversion, GoesOnBehindBytesThatAreNoUtf8)
+{
+    auto const answers = batch("{\"class\": \xc3\xa9}\n"
+                               "\xff\n"
+                               "{\"class\": \"\xff\"}\n"
+                               "{\"class\": \"Effect::Blur\", \"object\": {\"\xc3\": 1}}\n"
+                               "{\"class\": \"Effect::Crop\"}\n");
+    ASSERT_EQ(answers.size(), 5U);
+    for (std::size_t index = 0; index < 4; ++index)
+        EXPECT_NE(answers[index].value("error", ""), "") << index;
+    EXPECT_THAT(answers[0]["error"], HasSubstr("this is no JSON"));
+    EXPECT_EQ(answers[4]["class"], "Effect::Crop");
+}
+
+TEST_F(FilesTest, GoesOnBehindAShaderThatIsNoUtf8)
+{
+    QByteArray const shader = R"({"class": "Effect::ShaderISF", "object": {"resource": {"name": "bad", "type": 4}}})";
+    for (char const * const head : {"/*{\"A\": \xc3\xa9}*/", "/*{\"A\": \"\xff\"} \xff*/", "\xff", "/*{\xff"}) {
+        QString const file = write("bad.fs", head);
+        auto const answers = batch(shader + "\n{\"class\": \"Effect::Crop\"}\n", {"--resource", "bad=" + file});
+        ASSERT_EQ(answers.size(), 2U);
+        EXPECT_EQ(answers[0]["class"], "Effect::ShaderISF");
+        EXPECT_EQ(answers[1]["class"], "Effect::Crop");
+    }
 }
 
 } // namespace
