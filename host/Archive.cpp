@@ -1,7 +1,6 @@
 #include <EditorModel/EffectArchive.h>
 
 #include "Command.h"
-#include "Documents.h"
 #include "Files.h"
 #include "Output.h"
 
@@ -34,11 +33,13 @@ void archive(Options const & options)
     std::string const form = options.form.empty() ? formOf(options.to) : options.form;
     if (form.empty())
         throw CLI::ValidationError("OUT", options.to + " ends neither in .json nor in .bin, and there is no --format");
-    auto const effect = readEffect(options.from);
-    if (form == binaryForm)
-        writeFile(options.to, Effect::Archive::toBinary(*effect));
-    else
-        writeFile(options.to, toText(document(*effect), 2) + "\n");
+    Archived const archived = readArchived(options.from);
+    if (form == jsonForm)
+        return writeFile(options.to, toText(document(archived), 2) + "\n");
+    if (!archived.item.is_null())
+        throw Failure(
+            options.from + ": an item cannot be written in the binary form, which has no place for its categories");
+    writeFile(options.to, Effect::Archive::toBinary(*archived.effect));
 }
 
 } // namespace
@@ -47,7 +48,7 @@ void addArchive(CLI::App & program)
 {
     auto * const command = program.add_subcommand("archive", "Turn an archive into the other form");
     auto const options = std::make_shared<Options>();
-    command->add_option("IN", options->from, "Archive in either form or item, - for standard input")
+    command->add_option("IN", options->from, "Archive in either form, or item; - for standard input")
         ->required()
         ->option_text(" ");
     command

@@ -35,6 +35,7 @@ constexpr char const * standardStream = "-";
 constexpr char const * trackSuffix = ".track.json"; ///< motion tracks lie beside effects and are none
 constexpr qint64 largestFile = qint64(256) << 20;   // bytes
 constexpr std::string_view binaryStart = "EEAR";
+constexpr char const * effectKey = "effect";
 
 [[noreturn]] void fail(std::string const & path, QFileDevice const & file)
 {
@@ -44,18 +45,31 @@ constexpr std::string_view binaryStart = "EEAR";
 /// An archive document names its class at the top, an item holds one.
 bool isItem(json const & document)
 {
-    return document.is_object() && document.contains("effect") &&
+    return document.is_object() && document.contains(effectKey) &&
            !document.contains(Serialize::Json::MetaDetails::s_meta);
 }
 
-std::unique_ptr<Effect::Object> readDocument(std::string const & path, std::string const & text)
+bool isBinary(std::string_view bytes)
 {
-    if (!isItem(Serialize::Json::parse(text)))
-        return Effect::Archive::fromJson(text);
+    return bytes.substr(0, binaryStart.size()) == binaryStart;
+}
+
+/// Reads a file with `read`, which is given its bytes. What it throws becomes a `Failure` that names the file.
+template <class Read> auto readNamed(std::string const & path, Read const & read)
+{
+    std::string const bytes = readFile(path);
+    try {
+        return read(bytes);
+    } catch (std::exception const & error) {
+        throw Failure(path + ": " + error.what());
+    }
+}
+
+/// The item in a document's text, in which paths are absolute.
+serialize_ptr<EditorCollection::IItem> parseItem(std::string const & path, std::string const & text)
+{
     QString const folder = QFileInfo(path == standardStream ? QString() : fileName(path)).absolutePath();
-    auto const item = EditorCollection::parseItem(text, folder.toStdString());
-    // The item keeps its effect, and effects are copied through their documents.
-    return effectOf(document(item->payload()));
+    return EditorCollection::parseItem(text, folder.toStdString());
 }
 
 bool endsInOneOf(std::string const & name, std::vector<std::string> const & suffixes)
@@ -120,22 +134,53 @@ void writeFile(std::string const & path, std::string_view bytes)
         std::cout << bytes;
         return;
     }
-    QSaveFile file(fileName(path));
-    if (!file.open(QIODevice::WriteOnly) ||
-        file.write(bytes.data(), static_cast<qint64>(bytes.size())) != static_cast<qint64>(bytes.size()) ||
-        !file.commit())
+    // A pipe or a device is written to: only a file can be replaced.
+    std::error_code ignored;
+    auto const kind = fs::status(path, ignored).type();
+    bool const isReplaced = kind == fs::file_type::regular || kind == fs::file_type::not_found;
+    QSaveFile replacement(fileName(path));
+    QFile target(fileName(path));
+    QFileDevice & file = isReplaced ? static_cast<QFileDevice &>(replacement) : target;
+    auto const size = static_cast<qint64>(bytes.size());
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes.data(), size) != size ||
+        !(isReplaced ? replacement.commit() : target.flush()))
         fail(path, file);
+}
+
+Archived readArchived(std::string const & path)
+{
+    return readNamed(path, [&path](std::string const & bytes) -> Archived {
+        if (isBinary(bytes))
+            return {Effect::Archive::fromBinary(bytes), {}};
+        json item = Serialize::Json::parse(bytes);
+        if (!isItem(item))
+            return {Effect::Archive::fromJson(bytes), {}};
+        parseItem(path, bytes); // refuses what the catalogue would
+        auto effect = effectOf(item[effectKey]);
+        item.erase(effectKey);
+        return {std::move(effect), std::move(item)};
+    });
 }
 
 std::unique_ptr<Effect::Object> readEffect(std::string const & path)
 {
-    std::string const bytes = readFile(path);
-    try {
-        bool const isBinary = std::string_view(bytes).substr(0, binaryStart.size()) == binaryStart;
-        return isBinary ? Effect::Archive::fromBinary(bytes) : readDocument(path, bytes);
-    } catch (std::exception const & error) {
-        throw Failure(path + ": " + error.what());
-    }
+    return readNamed(path, [&path](std::string const & bytes) {
+        if (isBinary(bytes))
+            return Effect::Archive::fromBinary(bytes);
+        if (!isItem(Serialize::Json::parse(bytes)))
+            return Effect::Archive::fromJson(bytes);
+        // The item keeps its effect, and effects are copied through their documents.
+        return effectOf(document(parseItem(path, bytes)->payload()));
+    });
+}
+
+json document(Archived const & archived)
+{
+    if (archived.item.is_null())
+        return document(*archived.effect);
+    json item = archived.item;
+    item[effectKey] = document(*archived.effect);
+    return item;
 }
 
 std::vector<File> expand(std::vector<std::string> const & arguments, std::vector<std::string> const & suffixes)
@@ -222,7 +267,7 @@ bool describeFiles(FileOptions const & options, std::vector<File> const & files,
         } else if (!described.contains("error")) {
             Progress::hide();
             task.print(described);
-            // Who watches is not to wait for the rest; anybody else gets it in large pieces.
+            // On a terminal, each result is shown at once; elsewhere they are written in large pieces.
             if (isTerminal(STDOUT_FILENO))
                 std::cout.flush();
         }

@@ -22,12 +22,25 @@ namespace Host {
 /// The bytes of a file.
 std::string readFile(std::string const & path);
 
-/// Writes a file whole or not at all: a crash leaves the old one or the new one.
+/// Writes a file whole or not at all: a crash leaves the old one or the new one. What is no regular file, such as a
+/// pipe, is written to as it is.
 void writeFile(std::string const & path, std::string_view bytes);
 
-/// The effect in an archive of either form or in an item of the catalogue, told apart by what is in the file. What an
-/// item's effect refers to stands beside the file: the resource path comes out absolute.
+/// What an archive or an item of the catalogue holds.
+struct Archived
+{
+    std::unique_ptr<Effect::Object> effect;
+    nlohmann::json item; ///< of an item, its keys beside the effect; null for an archive
+};
+
+/// Reads an archive of either form or an item; what is in the file says which it is. Paths are left as they are.
+Archived readArchived(std::string const & path);
+
+/// The effect in such a file, for use: the paths in an item, which are relative to its folder, are made absolute.
 std::unique_ptr<Effect::Object> readEffect(std::string const & path);
+
+/// The document of an archive, or of an item with its effect in it.
+nlohmann::json document(Archived const & archived);
 
 /// @}
 
@@ -77,11 +90,11 @@ CLI::Option * addClass(CLI::App & command, std::string & className, std::vector<
 void printFileHeading(std::string const & file);
 
 /// Describes every file and prints it, or all of them as one array when a document is asked for. A file that cannot be
-/// done is told and keeps no other from being done; it has its place and its error in the document.
+/// done is reported, with "error" in its place of the document, and the others are done nevertheless.
 /// @return whether all could be done
 bool describeFiles(FileOptions const & options, std::vector<File> const & files, FileTask const & task);
 
-/// Ends the command with status 1 unless all went well. What did not has been told.
+/// Ends the command with status 1 unless all went well. What did not has been reported.
 void endWith(bool allDone);
 
 } // namespace Host

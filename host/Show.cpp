@@ -23,7 +23,7 @@ void showJson(std::vector<File> const & files)
         throw Failure("--json shows one effect, and these are " + std::to_string(files.size()) + " files");
     if (!files[0].error.empty())
         throw Failure(files[0].error);
-    printJson(document(*readEffect(files[0].name)));
+    printJson(document(readArchived(files[0].name)));
 }
 
 void showFiles(Options const & options)
@@ -34,12 +34,15 @@ void showFiles(Options const & options)
     endWith(describeFiles(options, files,
         {"Reading",
             [](std::string const & file) {
-                return json{{"document", document(*readEffect(file))}};
+                Archived archived = readArchived(file);
+                return json{{"document", document(*archived.effect)}, {"item", std::move(archived.item)}};
             },
             [&files](json const & described) {
                 if (files.size() > 1)
                     printFileHeading(described["file"]);
                 printDocument(described["document"]);
+                for (auto const & [key, value] : described["item"].items())
+                    std::cout << painted(Look::Dim, key) << "  " << toText(value) << '\n';
             }}));
 }
 
@@ -62,7 +65,7 @@ void addShow(CLI::App & program)
     auto const options = std::make_shared<Options>();
     auto * const files = addFiles(*command, *options, "Archives in either form or items");
     addClass(*command, options->className, {files});
-    command->add_flag("--json", options->asJson, "Print the archive document, of one effect");
+    command->add_flag("--json", options->asJson, "Print the document of one effect or item");
     setExamples(*command, "  effectctl show crop.json\n"
                           "  effectctl show --class Effect::Crop --json\n"
                           "  effectctl show 'stock/Masks/*.effect.json'\n"

@@ -223,8 +223,6 @@ TEST_F(FilesTest, ItemsAreReadLikeArchives)
     QString const file = write("mine.effect.json", item.dump());
     // What lies beside the item is found from anywhere.
     write("table.cube", "LUT_3D_SIZE 2\n0 0 0\n0 0 0\n0 0 0\n0 0 0\n0 0 0\n0 0 0\n0 0 0\n0 0 0\n");
-    json const shown = json::parse(effectctl({"show", "--json", file}).output);
-    EXPECT_EQ(shown["Effect::VideoEffect"]["Effect::Object"]["resourcePath"], path("table.cube").toStdString());
     auto const converted = effectctl({"convert", "--json", file});
     EXPECT_EQ(converted.status, 0) << converted.errors;
     EXPECT_EQ(json::parse(converted.output)[0]["settings"][0]["calls"][0],
@@ -234,6 +232,71 @@ TEST_F(FilesTest, ItemsAreReadLikeArchives)
     EXPECT_EQ(effectctl({"show", bad}).errors, "effectctl: " + bad.toStdString() +
                                                    ": in \"effect\": an object is expected, found number, at "
                                                    "/transform\n");
+}
+
+TEST_F(FilesTest, ItemsStayItems)
+{
+    Effect::Lut lut("mine");
+    lut.resourcePath = "../tables/mine.cube";
+    // Categories out of order, and a key that only another program knows.
+    json const item{{"categories", {"category_b", "category_a"}}, {"note", "kept"},
+        {"effect", json::parse(Effect::Archive::toJson(lut))}};
+    QString const file = write("mine.effect.json", item.dump());
+    EXPECT_EQ(json::parse(effectctl({"show", "--json", file}).output), item);
+    auto const run = effectctl({"archive", file, path("copy.effect.json")});
+    EXPECT_EQ(run.status, 0) << run.errors;
+    EXPECT_EQ(json::parse(read("copy.effect.json")), item);
+    EXPECT_EQ(json::parse(effectctl({"archive", "-", "-"}, QByteArray::fromStdString(item.dump())).output), item);
+
+    std::string const shown = effectctl({"show", file}).output;
+    EXPECT_THAT(shown, StartsWith("Effect::Lut\n"));
+    EXPECT_THAT(shown, HasSubstr("  resourcePath  \"../tables/mine.cube\"\n"));
+    EXPECT_THAT(shown, HasSubstr("categories  [\"category_b\",\"category_a\"]\nnote  \"kept\"\n"));
+
+    // Where there is no categories, none are made up.
+    json const bare{{"effect", item["effect"]}};
+    EXPECT_EQ(json::parse(effectctl({"show", "--json", write("bare.effect.json", bare.dump())}).output), bare);
+}
+
+TEST_F(FilesTest, ItemsHaveNoBinaryForm)
+{
+    json const item{{"categories", {"category_x"}}, {"effect", json::parse(Effect::Archive::toJson(Effect::Crop()))}};
+    QString const file = write("mine.effect.json", item.dump());
+    write("old.bin", "old");
+    auto const run = effectctl({"archive", file, path("old.bin")});
+    EXPECT_EQ(run.status, 1);
+    EXPECT_EQ(
+        run.errors, "effectctl: " + file.toStdString() +
+                        ": an item cannot be written in the binary form, which has no place for its categories\n");
+    EXPECT_EQ(read("old.bin"), "old");
+    EXPECT_EQ(effectctl({"archive", file, "-", "--format", "bin"}).output, "");
+}
+
+TEST_F(FilesTest, ItemsOfTheStockKeepTheirCategoriesAndPaths)
+{
+    QString const luts = STOCK_FOLDER "/Luts/";
+    QStringList const names = QDir(luts).entryList({"*.effect.json"});
+    EXPECT_GE(names.size(), 8);
+    for (QString const & name : names) {
+        QFile file(luts + name);
+        ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+        json const item = json::parse(file.readAll().toStdString());
+        json const shown = json::parse(effectctl({"show", "--json", file.fileName()}).output);
+        EXPECT_EQ(shown["categories"], item["categories"]) << name.toStdString();
+        json::json_pointer const resourcePath("/effect/Effect::VideoEffect/Effect::Object/resourcePath");
+        EXPECT_EQ(shown[resourcePath], item[resourcePath]) << name.toStdString();
+        EXPECT_NE(shown[resourcePath], "") << name.toStdString();
+    }
+}
+
+TEST_F(FilesTest, PipesAreWrittenTo)
+{
+    std::string const text = Effect::Archive::toJson(Effect::Opacity());
+    write("opacity.json", text);
+    auto const run = shell("cd " + folder.path() + " && mkfifo pipe && { timeout 20 cat pipe & } && " +
+                           "$effectctl archive opacity.json pipe --format json && wait && test -p pipe");
+    EXPECT_EQ(run.status, 0) << run.errors;
+    EXPECT_EQ(json::parse(run.output), json::parse(text));
 }
 
 /// A folder with effects in it and in a folder in it, and with what is no effect.
