@@ -57,6 +57,8 @@ function(editor_platform_library name)
     "$<INSTALL_INTERFACE:${EDITOR_INCLUDEDIR}>")
   target_compile_features(${name} PUBLIC cxx_std_17)
   target_link_libraries(${name} PUBLIC ${arg_PUBLIC} PRIVATE ${arg_PRIVATE} $<BUILD_INTERFACE:EditorBuildFlags>)
+  # Debian wants every library to depend on the C library, also one that calls nothing of it.
+  target_link_options(${name} PRIVATE "LINKER:--push-state,--no-as-needed,-lc,--pop-state")
   generate_export_header(${name} EXPORT_FILE_NAME "${CMAKE_CURRENT_BINARY_DIR}/include/${name}/Export.h")
   set_target_properties(${name} PROPERTIES
     OUTPUT_NAME "${EDITOR_PLATFORM_PREFIX}${name}"

@@ -23,7 +23,7 @@ run(ignored "${CPACK}" -G DEB --config "${BUILD_DIR}/CPackConfig.cmake" -B "${wo
 
 # Found by dpkg-shlibdeps, which knows them by version too.
 set(linked libboost-serialization1 libqt5core5 libqt5gui5 libgoogle-glog0 "libstdc++6 (>=")
-set(runtime_version "libeditoreffects1 (= ${VERSION}-1)")
+set(runtime_version "libeditoreffects1 (= ${VERSION})")
 package(libeditoreffects1 ${linked})
 package(libeditoreffects-dev "${runtime_version}" "libboost-serialization-dev" "qtbase5-dev" "nlohmann-json3-dev")
 package(effectctl "${runtime_version}" ${linked})
@@ -37,6 +37,29 @@ if(loose)
 endif()
 expect_in("${libeditoreffects1}" "./usr/share/EditorEffects/stock/" libeditoreffects1)
 expect_in("${libeditoreffects-dev}" "./usr/include/EditorEffects/effects/Effects.h" libeditoreffects-dev)
+
+# The loader's cache is updated by a trigger, and by no script.
+foreach(name IN ITEMS libeditoreffects1 libeditoreffects-dev effectctl)
+  file(GLOB found "${work}/packages/${name}_*.deb")
+  run(ignored dpkg-deb --control "${found}" "${work}/control-${name}")
+  file(GLOB scripts "${work}/control-${name}/postinst" "${work}/control-${name}/postrm")
+  if(scripts)
+    fail("${name} has ${scripts}")
+  endif()
+  expect_in("${${name}}" "./usr/share/doc/${name}/changelog.gz" "${name}")
+endforeach()
+file(READ "${work}/control-libeditoreffects1/triggers" triggers)
+expect_in("${triggers}" "activate-noawait ldconfig" "The triggers of libeditoreffects1")
+
+# Debian's own checks. A build tree that was not configured for /usr has no folder for the architecture.
+find_program(LINTIAN lintian)
+if(LINTIAN)
+  file(GLOB packages "${work}/packages/*.deb")
+  run(ignored "${LINTIAN}" --allow-root --fail-on error,warning
+    --suppress-tags pkg-config-unavailable-for-cross-compilation ${packages})
+else()
+  message(STATUS "lintian is not installed: the packages are not checked with it")
+endif()
 
 expect_stock("${work}/root/usr/bin/effectctl")
 expect_conversion("${work}/root/usr/bin/effectctl")
