@@ -372,6 +372,7 @@ TEST_F(ContentProviderTest, AUsersBlobIsNotTakenFromOutsideOfItsFolder)
 {
     ManualStorage const storage;
     ContentProvider const provider;
+    touch(user("Blobs/inside")); // without the folder, no path leads through it
     touch(user("../AUsersBlobIsOutside.cube"));
     storage.deliver(userLuts, std::make_unique<Effect::Lut>("../../AUsersBlobIsOutside.cube"));
     EXPECT_FALSE(Resource::isResourceRegistered(resourceId("../../AUsersBlobIsOutside.cube")));
@@ -492,13 +493,15 @@ TEST_F(ContentProviderLoadTest, TwoAtOnceLoadAllOfTheirItems)
 {
     ContentProvider const first;
     auto const * const firsts = CollectionProvider::collection("Effects");
+    ContentProvider const second;
+    auto const * const seconds = CollectionProvider::collection("Effects");
+    ASSERT_NE(seconds, firsts);
     {
-        ContentProvider const second;
-        ASSERT_NE(CollectionProvider::collection("Effects"), firsts);
-        storage.waitForAll();
-        EXPECT_THAT(CollectionProvider::collection("Effects")->items(), SizeIs(stockCount));
+        ContentProvider const third; // which does not stay
     }
+    storage.waitForAll();
     EXPECT_THAT(firsts->items(), SizeIs(stockCount));
+    EXPECT_THAT(seconds->items(), SizeIs(stockCount));
 }
 
 TEST_F(ContentProviderLoadTest, AHostsHolderGoesWithoutItsLoads)
