@@ -242,6 +242,19 @@ TEST_F(MatricesAndLists, TrackedFrames)
     EXPECT_EQ(matrix, Matrix3x3(0.75, 0.25, 3, 3, 0.625, 6, 7.125, 7.6875, 9));
 }
 
+TEST_F(MatricesAndLists, TrackedFramesOfALongEffect)
+{
+    // 2^53 - 1 is a double and no float, so that the end would be missed.
+    Testing::TemporaryTrack const track("end", R"({"frames": [{"time": 9007199254740991, "rect": [0, 0, 1, 1]}]})");
+    Mask effect;
+    effect.addFrame(*FrameHighlight().setTrackingId(QStringLiteral("end")));
+    auto const record = Factory::videoEffectSettings(effect, {{}, 9007199254740991});
+    auto const frameAt = at<SettingsEffectMask>(record, 0).GetFrameFunctors().at(0);
+    EXPECT_TRUE(frameAt(1));
+    EXPECT_FALSE(frameAt(1 - 0x1p-53));
+    EXPECT_FALSE(frameAt(1 + 0x1p-52));
+}
+
 TEST_F(MatricesAndLists, BandsOfAnEqualizer)
 {
     AudioEqualizer effect;
@@ -278,15 +291,16 @@ TEST_F(MatricesAndLists, RepeatsOfAnEcho)
 
 TEST_F(MatricesAndLists, TheCurveOfAMuffle)
 {
-    // 27 exp(-(log2(1000) - k)^2 / 4.5) - 20 for k from 5 to 14, to twenty places.
-    constexpr double gains[] = {-19.887403418735147807, -19.180573775692346117, -16.176379835608275931,
-        -8.5601624305445655983, 1.9454860061220415766, 6.9929766225802731526, 1.2880844408091933667,
-        -9.2352829200546605761, -16.509811475305733682, -19.274436574162703845};
+    // 27 exp(-(log2(1000) - k)^2 / (2 * 1.1^2)) - 20 for k from 5 to 14, to twenty places. 1.1 is no number of single
+    // precision.
+    constexpr double gains[] = {-19.998985985586616076, -19.959364261695340449, -19.287391297085835207,
+        -14.531439392218451144, -1.6357211733728112611, 6.9869414606516985974, -2.6454883819094036779,
+        -15.116287757849025181, -19.398595494721276787, -19.967591253901547865};
     AudioMuffle effect;
     effect.gainUp = 7;
     effect.gainDown = 20;
     // Its sign does not count, since it is squared.
-    for (double const dispersion : {1.5, -1.5}) {
+    for (double const dispersion : {1.1, -1.1}) {
         effect.dispersion = dispersion;
         auto const record = Factory::audioEffectSettings(effect, {});
         auto const bands = at<SettingsAudioEqualizer>(record, 0).GetMultiband();
