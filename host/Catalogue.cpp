@@ -8,8 +8,10 @@
 #include <EditorUtil/ItemStorage.h>
 
 #include "Command.h"
-#include "Documents.h"
+#include "Conversion.h"
+#include "FileNames.h"
 #include "Files.h"
+#include "Messages.h"
 #include "Output.h"
 #include "Progress.h"
 #include "RenderHost.h"
@@ -30,7 +32,7 @@ struct Options
     bool convert = false;
 };
 
-/// What became of the items.
+/// How many items there are of which kind.
 struct Summary
 {
     std::size_t items = 0;
@@ -39,16 +41,9 @@ struct Summary
     std::size_t descriptors = 0;  ///< which nothing converts
     std::size_t holders = 0;      ///< whose effects were all converted
     std::size_t held = 0;         ///< effects in those
+    std::size_t incomplete = 0;   ///< converted without something that is missing or broken
     std::size_t notConverted = 0; ///< which should have been
 };
-
-/// What converting an item came to.
-namespace Result {
-constexpr char const * converted = "converted";
-constexpr char const * descriptor = "descriptor";
-constexpr char const * holder = "holder";
-constexpr char const * failed = "failed";
-} // namespace Result
 
 /// Waits for the deliveries.
 void waitForItems(EditorCollection::ItemStorage & storage)
@@ -61,62 +56,60 @@ void waitForItems(EditorCollection::ItemStorage & storage)
     }
 }
 
-/// Converts one effect that is no holder. Throws a `Failure` that tells why it did not convert.
-void convertOne(RenderHost & host, Effect::Object const & effect, RenderParams const & params)
+void count(Outcome const & outcome, Summary & summary)
 {
-    json const record = host.convert(effect, params);
-    if (!record["settings"].empty())
-        return;
-    std::string reason;
-    for (json const & line : record["log"])
-        reason += (reason.empty() ? "" : "; ") + line.get<std::string>();
-    throw Failure(reason.empty() ? "no settings came of it" : reason);
-}
-
-/// Converts the effects that a holder holds, those of holders in it included, each on its own. Returns how many; throws
-/// a `Failure` for the first that does not convert.
-std::size_t convertHeld(RenderHost & host, json const & holder, RenderParams const & params)
-{
-    std::size_t count = 0;
-    for (json const & inside : heldEffects(holder)) {
-        if (inside.is_null())
-            continue;
-        if (isHolder(inside)) {
-            count += convertHeld(host, inside, params);
-            continue;
-        }
-        convertOne(host, *effectOf(inside), params);
-        ++count;
+    switch (outcome.result) {
+    case Outcome::Result::Converted:
+        ++summary.converted;
+        break;
+    case Outcome::Result::Descriptor:
+        ++summary.descriptors;
+        break;
+    case Outcome::Result::Holder:
+        ++summary.holders;
+        summary.held += outcome.held;
+        break;
+    case Outcome::Result::Incomplete:
+        ++summary.incomplete;
+        break;
+    case Outcome::Result::Failed:
+        ++summary.notConverted;
+        break;
     }
-    return count;
 }
 
-/// Converts what an item carries, and adds to its description what came of it.
-void convertItem(RenderHost & host, Effect::Object const & effect, json & described, Summary & summary)
+Outcome convert(RenderHost & host, Effect::Object const & effect)
 {
     RenderParams params;
     params.video = {{1920, 1080}, 5 * MTime::unitsPerSecond}; // any will do
     try {
-        json const archived = document(effect);
-        if (isHolder(archived)) {
-            std::size_t const held = convertHeld(host, archived, params);
-            summary.held += held;
-            ++summary.holders;
-            described["result"] = Result::holder;
-            described["effects"] = held;
-        } else if (effect.impl() == Effect::Impl::Descriptor) {
-            ++summary.descriptors;
-            described["result"] = Result::descriptor;
-        } else {
-            convertOne(host, effect, params);
-            ++summary.converted;
-            described["result"] = Result::converted;
-        }
+        return outcomeOf(effect, recordOf(host, effect, params));
     } catch (std::exception const & error) {
-        ++summary.notConverted;
-        described["result"] = Result::failed;
-        described["reason"] = error.what();
+        return {Outcome::Result::Failed, 0, {error.what()}};
     }
+}
+
+/// Converts what an item carries, and adds to its description what came of it.
+/// @return what went wrong, as lines for the user
+std::vector<std::string> convertItem(
+    RenderHost & host, EditorCollection::IItem const & item, json & described, Summary & summary)
+{
+    Outcome const outcome = convert(host, item.payload());
+    count(outcome, summary);
+    described["result"] = toText(outcome.result);
+    if (outcome.result == Outcome::Result::Holder)
+        described["effects"] = outcome.held;
+    if (outcome.problems.empty())
+        return {};
+    bool const isFailed = outcome.result == Outcome::Result::Failed;
+    if (isFailed)
+        described["reason"] = joined(outcome.problems, "; ");
+    else
+        described["warnings"] = outcome.problems;
+    std::vector<std::string> lines;
+    for (std::string const & problem : outcome.problems)
+        lines.push_back(item.file() + (isFailed ? ": did not convert: " : ": ") + problem);
+    return lines;
 }
 
 json describe(EditorCollection::IItem const & item)
@@ -126,7 +119,8 @@ json describe(EditorCollection::IItem const & item)
     for (QString const & category : item.categories())
         categories.push_back(category.toStdString());
     return {{"class", effect.GetNameInArchive()}, {"tag", effect.tag.toStdString()}, {"id", effect.id.toStdString()},
-        {"groupId", effect.groupId.toStdString()}, {"categories", std::move(categories)}, {"user", item.userFlagA()}};
+        {"groupId", effect.groupId.toStdString()}, {"categories", std::move(categories)}, {"user", item.userFlagA()},
+        {"file", asText(item.file())}};
 }
 
 /// Such as "1 item" and "2 items".
@@ -173,6 +167,7 @@ json toJson(Summary const & summary, bool areConverted)
         object["descriptors"] = summary.descriptors;
         object["holders"] = summary.holders;
         object["held"] = summary.held;
+        object["incomplete"] = summary.incomplete;
         object["notConverted"] = summary.notConverted;
     }
     return object;
@@ -184,25 +179,47 @@ void printSummary(Summary const & summary, bool areConverted)
     if (areConverted)
         std::cout << ": " << summary.converted << " converted, " << counted(summary.descriptors, "descriptor") << ", "
                   << counted(summary.holders, "holder") << " with " << counted(summary.held, "effect")
-                  << " converted each on its own, " << summary.notConverted << " not converted";
+                  << " converted each on its own, " << summary.incomplete << " incomplete, " << summary.notConverted
+                  << " not converted";
     std::cout << "; " << counted(summary.unreadable, "file") << " could not be read\n";
 }
 
-/// Throws a `Failure` where a folder is missing that the user named.
-QString folder(std::string const & path)
+/// Throws a `Failure` for what is no folder that items can be read from.
+void checkFolder(QString const & path)
 {
-    QString const name = QString::fromStdString(path);
-    if (!name.isEmpty() && !QFileInfo(name).isDir())
-        throw Failure(path + ": no such folder");
-    return name;
+    QFileInfo const info(path);
+    if (!info.isDir())
+        throw Failure(toBytes(path) + ": no such folder");
+    // The storage takes folders as texts.
+    QString const absolute = info.absoluteFilePath();
+    if (QString::fromUtf8(absolute.toUtf8()) != absolute)
+        throw Failure(toBytes(path) + ": items cannot be read from a folder whose name is not UTF-8");
+}
+
+/// What is wrong with the stock folder as a whole; empty when nothing is. The storage takes a collection's folder that
+/// is missing for one without items, so a wrong stock folder would pass for an empty catalogue.
+std::string stockProblem()
+{
+    std::vector<std::string> names;
+    for (QString const & path : {Settings::stockVideoEffectsPath(), Settings::stockOverlayEffectsPath(),
+             Settings::stockAudioEffectsPath(), Settings::stockAudioEnhancePath(), Settings::stockColorFiltersPath(),
+             Settings::stockLutEffectsPath(), Settings::stockPipEffectsPath(), Settings::stockMasksPath()}) {
+        if (QFileInfo(path).isDir())
+            return {};
+        names.push_back(toBytes(QFileInfo(path).fileName()));
+    }
+    return toBytes(Settings::stockRoot()) + ": this is no stock folder, as it holds none of " + joined(names, ", ");
 }
 
 void catalogue(Options const & options)
 {
-    Settings::setStockRoot(folder(options.stock));
-    Settings::setUserRoot(folder(options.user));
-    if (!QFileInfo(Settings::stockRoot()).isDir())
-        throw Failure(Settings::stockRoot().toStdString() + ": no such folder");
+    for (auto const & [path, set] :
+        {std::pair(options.stock, &Settings::setStockRoot), std::pair(options.user, &Settings::setUserRoot)}) {
+        if (!path.empty())
+            checkFolder(fileName(path));
+        set(fileName(path));
+    }
+    checkFolder(Settings::stockRoot());
 
     EditorCollection::ItemStorage storage;
     RenderHost host(storage);
@@ -211,7 +228,7 @@ void catalogue(Options const & options)
     Summary summary;
     summary.unreadable = storage.progress().failed;
     json collections = json::array();
-    std::vector<Failure> failures;
+    std::vector<std::string> problems;
     Progress progress("Converting items");
     std::size_t const all = storage.progress().delivered;
     for (auto const * const collection : EditorCollection::CollectionProvider::collections()) {
@@ -221,11 +238,8 @@ void catalogue(Options const & options)
             json described = describe(*item);
             progress.show(summary.items + items.size(), all);
             if (options.convert)
-                convertItem(host, item->payload(), described, summary);
-            if (described.contains("reason"))
-                failures.emplace_back(name + ": " + described["class"].get<std::string>() + ' ' +
-                                      toText(described["tag"]) +
-                                      " did not convert: " + described["reason"].get<std::string>());
+                for (std::string & line : convertItem(host, *item, described, summary))
+                    problems.push_back(std::move(line));
             items.push_back(std::move(described));
         }
         summary.items += items.size();
@@ -240,10 +254,12 @@ void catalogue(Options const & options)
             printCollection(collection);
         printSummary(summary, options.convert);
     }
-    for (Failure const & failure : failures)
-        complain(failure.what());
-    // What could not be read has been logged.
-    endWith(failures.empty() && summary.unreadable == 0);
+    if (std::string problem = stockProblem(); !problem.empty())
+        problems.push_back(std::move(problem));
+    for (std::string const & problem : problems)
+        complain(problem);
+    // What could not be read has been logged, and is on the screen already.
+    endWith(problems.empty() && messageCount() == 0);
 }
 
 } // namespace
@@ -261,7 +277,8 @@ void addCatalogue(CLI::App & program)
             "User's folder; unless given, that of the environment's EDITOR_USER_DIR, else the user's data folder")
         ->option_text("DIR");
     command->add_flag("--json", options->asJson, "Print one JSON document: the collections and the summary");
-    command->add_flag("--convert", options->convert, "Convert every item as well, and tell which did not convert");
+    command->add_flag("--convert", options->convert,
+        "Convert every item as well, and report those that did not or not wholly convert");
     setExamples(*command, "  effectctl catalogue\n"
                           "  effectctl catalogue --stock stock --convert\n"
                           "  effectctl catalogue --json | jq .summary");

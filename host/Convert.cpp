@@ -1,14 +1,20 @@
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
 #include <iostream>
 #include <optional>
+
+#include <sys/stat.h>
 
 #include <EditorModel/EffectFactory.h>
 #include <EditorModel/MotionTracking.h>
 #include <EditorModel/Resource.h>
 #include <EditorSerialization/JsonArchive.h>
-#include <Settings/Trace.h>
+#include <effects/Effects.h>
 #include <utils/EffectUtils.h>
 
 #include "Command.h"
+#include "Conversion.h"
 #include "Documents.h"
 #include "FileNames.h"
 #include "Files.h"
@@ -45,13 +51,21 @@ std::string checkPair(std::string const & text)
     return sign == 0 || sign == text.npos ? text + " is not of the form NAME=VALUE" : std::string();
 }
 
-/// Sets one key, the class's own or one of `Effect::Object`, to a JSON value; what is no JSON is a text.
+/// A JSON value; what is no JSON is a text.
+json valueOf(std::string const & text)
+{
+    try {
+        return Serialize::Json::parse(text);
+    } catch (std::exception const &) {
+        return text;
+    }
+}
+
+/// Sets one key, the class's own or one of `Effect::Object`.
 void change(json & document, std::string const & pair)
 {
     auto const [key, text] = halves(pair);
-    json value = json::parse(text, nullptr, false);
-    if (value.is_discarded())
-        value = text;
+    json const value = valueOf(text);
     try {
         setField(document, key, value);
     } catch (Failure const & failure) {
@@ -81,25 +95,9 @@ void printRecord(json const & record)
         for (auto const & [key, value] : settings["fields"].items())
             std::cout << "    " << painted(Look::Dim, key) << " = " << toText(value) << '\n';
     }
-    for (json const & line : record["log"])
-        std::cout << "  " << line.get<std::string>() << '\n';
-}
-
-/// The records of the effects inside a holder, each on its own.
-void convertInside(RenderHost & host, json const & holder, json & records)
-{
-    for (json const & inside : heldEffects(holder))
-        records.push_back(inside.is_null() ? json() : host.convert(*effectOf(inside), {}));
-}
-
-/// The record of an effect; that of a holder has those of the effects inside as well.
-json recordOf(RenderHost & host, Effect::Object const & effect)
-{
-    json record = host.convert(effect, {});
-    json const archived = document(effect);
-    if (isHolder(archived))
-        convertInside(host, archived, record["effects"] = json::array());
-    return record;
+    for (char const * const key : {"log", "warnings"})
+        for (json const & line : record.value(key, json::array()))
+            std::cout << "  " << asText(line.get_ref<std::string const &>()) << '\n';
 }
 
 void printRecords(json const & record)
@@ -114,19 +112,30 @@ void printRecords(json const & record)
         if (inside.is_null())
             std::cout << "(empty)\n";
         else
-            printRecord(inside);
+            printRecords(inside);
     }
+}
+
+/// As the catalogue does with its items. What is registered already, such as by `--resource`, stays.
+void registerResources(Effect::Object const & effect)
+{
+    Effect::Utils::registerEffectResource(effect);
+    if (auto const * const holder = dynamic_cast<Effect::EffectsHolder const *>(&effect))
+        for (auto const & held : holder->effects)
+            if (held)
+                registerResources(*held);
 }
 
 void convertFiles(RenderHost & host, Options const & options)
 {
     auto const files = expand(options.arguments, effectSuffixes);
-    auto const describe = [&host](std::string const & file) {
+    auto const describe = [&host](std::string const & file) -> Description {
         auto const effect = readEffect(file);
-        // As the catalogue does with its items. A file that was given for the resource comes first.
-        Effect::Utils::registerEffectResource(*effect);
+        registerResources(*effect);
         try {
-            return recordOf(host, *effect);
+            json record = recordOf(host, *effect, {});
+            auto problems = outcomeOf(*effect, record).problems;
+            return {std::move(record), std::move(problems)};
         } catch (std::exception const & error) {
             throw Failure(file + ": " + error.what());
         }
@@ -144,7 +153,7 @@ void convertClass(RenderHost & host, Options const & options)
     json archived = document(*createEffect(options.className));
     for (std::string const & pair : options.changes)
         change(archived, pair);
-    json const record = recordOf(host, *effectOf(archived));
+    json const record = recordOf(host, *effectOf(archived), {});
     if (options.asJson)
         printJson(record);
     else
@@ -157,12 +166,21 @@ template <class Number> void take(json const & object, char const * key, Number 
         Serialize::Json::Detail::load(*found, number);
 }
 
+/// Throws a `Failure` for a key that nothing reads, which is most likely misspelt.
+void checkKeys(json const & object, std::string const & what, std::vector<std::string> const & known)
+{
+    for (auto const & [key, value] : object.items())
+        if (std::find(known.begin(), known.end(), key) == known.end())
+            throw Failure(what + " has no key \"" + key + "\", only \"" + joined(known, "\", \"") + '"');
+}
+
 RenderParams paramsOf(json const & request)
 {
     RenderParams params;
     if (auto const video = request.find("video"); video != request.end()) {
         if (!video->is_object())
             throw Failure("\"video\" is no object");
+        checkKeys(*video, "\"video\"", {"frameGeometry", "duration"});
         take(*video, "duration", params.video.duration);
         if (auto const geometry = video->find("frameGeometry"); geometry != video->end()) {
             if (!geometry->is_array() || geometry->size() != params.video.frameGeometry.size())
@@ -174,6 +192,7 @@ RenderParams paramsOf(json const & request)
     if (auto const audio = request.find("audio"); audio != request.end()) {
         if (!audio->is_object())
             throw Failure("\"audio\" is no object");
+        checkKeys(*audio, "\"audio\"", {"sampleRate"});
         take(*audio, "sampleRate", params.audio.sampleRate);
     }
     if (auto const as = request.find("as"); as != request.end()) {
@@ -188,6 +207,7 @@ json convertRequest(RenderHost & host, json const & request)
 {
     if (!request.is_object() || !request.contains("class") || !request["class"].is_string())
         throw Failure("the request names no class");
+    checkKeys(request, "a request", {"class", "fields", "object", "video", "audio", "as"});
     json archived = document(*createEffect(request["class"]));
     auto const replace = [&](char const * part, auto const & set) {
         auto const changes = request.find(part);
@@ -204,24 +224,40 @@ json convertRequest(RenderHost & host, json const & request)
 }
 
 /// A request a line, an answer a line. A line that cannot be done is answered with an error, and the batch goes on.
+/// Each answer says how its request went; the batch as a whole fails when every request did.
 void convertBatch(RenderHost & host)
 {
+    std::size_t requests = 0;
+    std::size_t failures = 0;
     std::string line;
     while (std::cout && std::getline(std::cin, line)) {
         if (line.find_first_not_of(" \t\r") == line.npos)
             continue;
         json answer;
         json request;
+        ++requests;
         try {
             request = Serialize::Json::parse(line);
             answer = convertRequest(host, request);
         } catch (std::exception const & error) {
             answer = {{"class", request.is_object() && request.contains("class") ? request["class"] : json()},
                 {"error", error.what()}};
+            ++failures;
         }
         // Flushed, since the sender may wait for the answer to one request before it sends the next.
         std::cout << toText(answer) << std::endl;
     }
+    if (requests > 0 && failures == requests)
+        throw Failure(std::to_string(failures) + " of " + std::to_string(requests) + " requests failed");
+}
+
+/// The file of a pair "NAME=FILE", as the library takes it.
+QString existingFile(std::string const & file)
+{
+    struct stat status;
+    if (stat(file.c_str(), &status) != 0)
+        throw Failure(file + ": " + std::strerror(errno));
+    return fileName(file);
 }
 
 void convert(Options const & options)
@@ -229,12 +265,12 @@ void convert(Options const & options)
     RenderHost host;
     for (std::string const & pair : options.resources) {
         auto const [name, file] = halves(pair);
-        Resource::registerResource(Resource::ID(QString::fromStdString(name), Resource::Type::Blob), fileName(file), 0,
-            MTime(), Resource::Timing());
+        Resource::registerResource(Resource::ID(QString::fromStdString(name), Resource::Type::Blob), existingFile(file),
+            0, MTime(), Resource::Timing());
     }
     for (std::string const & pair : options.tracks) {
         auto const [id, file] = halves(pair);
-        MotionTracking::registerTrack(QString::fromStdString(id), fileName(file));
+        MotionTracking::registerTrack(QString::fromStdString(id), existingFile(file));
     }
     if (options.batch)
         convertBatch(host);
@@ -258,10 +294,12 @@ void addConvert(CLI::App & program)
         ->option_text("KEY=VALUE ...")
         ->needs(byClass)
         ->check(checkPair);
-    command->add_option("--resource", options->resources, "Make a file the resource of that name, whatever asks for it")
+    command
+        ->add_option(
+            "--resource", options->resources, "Make an existing file the resource of that name, whatever asks for it")
         ->option_text("NAME=FILE ...")
         ->check(checkPair);
-    command->add_option("--track", options->tracks, "Make a file the motion track of that identifier")
+    command->add_option("--track", options->tracks, "Make an existing file the motion track of that identifier")
         ->option_text("ID=FILE ...")
         ->check(checkPair);
     command->add_flag("--json", options->asJson, std::string(filesAsJson) + "; for --class, the object alone");

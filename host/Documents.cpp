@@ -18,25 +18,9 @@ constexpr char const * classPrefix = "Effect::";
 // Absent from a document when there is none.
 constexpr char const * optionalObjectKey = "range";
 
-constexpr char const * holderName = "Effect::EffectsHolder";
-constexpr char const * heldKey = "effects";
-
 std::string classOf(json const & document)
 {
     return document.at(s_meta).at(s_class_name).get<std::string>();
-}
-
-/// The array of held effects in a holder's document or in that of its base; null for anything else.
-json const * findHeld(json const & document)
-{
-    json const * level = &document;
-    if (classOf(document) != holderName) {
-        auto const base = document.find(holderName);
-        if (base == document.end())
-            return nullptr;
-        level = &*base;
-    }
-    return &level->at(heldKey);
 }
 
 } // namespace
@@ -91,16 +75,6 @@ json ownFields(json const & document)
     fields.erase(s_meta);
     fields.erase(baseOf(document));
     return fields;
-}
-
-bool isHolder(json const & document)
-{
-    return findHeld(document) != nullptr;
-}
-
-json const & heldEffects(json const & holder)
-{
-    return *findHeld(holder);
 }
 
 void setField(json & document, std::string const & key, json value)

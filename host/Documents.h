@@ -30,12 +30,6 @@ std::string baseOf(nlohmann::json const & document);
 /// The class's own keys with their values: neither the meta object nor the base.
 nlohmann::json ownFields(nlohmann::json const & document);
 
-/// Whether the document is that of an effect that holds others.
-bool isHolder(nlohmann::json const & document);
-
-/// The documents of the effects that a holder holds, null for an empty slot.
-nlohmann::json const & heldEffects(nlohmann::json const & holder);
-
 /// Replaces the value of one of the class's own keys, or of its bases' short of `Effect::Object`. Throws a `Failure`
 /// for a key that the class does not have.
 void setField(nlohmann::json & document, std::string const & key, nlohmann::json value);

@@ -255,8 +255,12 @@ bool describeFiles(FileOptions const & options, std::vector<File> const & files,
         try {
             if (!file.error.empty())
                 throw Failure(file.error);
-            described = task.describe(file.name);
+            Description description = task.describe(file.name);
+            described = std::move(description.fields);
             described["file"] = asText(file.name);
+            for (std::string const & fault : description.faults)
+                complain(file.name + ": " + fault);
+            allDone = allDone && description.faults.empty();
         } catch (std::exception const & error) {
             complain(error.what());
             described = {{"file", asText(file.name)}, {"error", asText(error.what())}};

@@ -68,12 +68,24 @@ struct FileOptions
     bool asJson = false;
 };
 
+/// What such a command says of one file.
+struct Description
+{
+    Description(nlohmann::json object, std::vector<std::string> lines = {})
+        : fields(std::move(object))
+        , faults(std::move(lines))
+    {}
+
+    nlohmann::json fields;           ///< an object
+    std::vector<std::string> faults; ///< what is wrong with the file all the same, without its name
+};
+
 /// How such a command treats one.
 struct FileTask
 {
-    std::string work;                                            ///< what it does, such as "Converting"
-    std::function<nlohmann::json(std::string const &)> describe; ///< what there is to say of a file, an object
-    std::function<void(nlohmann::json const &)> print;           ///< says it; "file" in it is the file
+    std::string work;                                         ///< what it does, such as "Converting"
+    std::function<Description(std::string const &)> describe; ///< throws for a file that cannot be done
+    std::function<void(nlohmann::json const &)> print;        ///< prints the fields; "file" in them is the file
 };
 
 /// Adds FILE to a command.
@@ -91,7 +103,7 @@ void printFileHeading(std::string const & file);
 
 /// Describes every file and prints it, or all of them as one array when a document is asked for. A file that cannot be
 /// done is reported, with "error" in its place of the document, and the others are done nevertheless.
-/// @return whether all could be done
+/// @return whether nothing was wrong with any file
 bool describeFiles(FileOptions const & options, std::vector<File> const & files, FileTask const & task);
 
 /// Ends the command with status 1 unless all went well. What did not has been reported.

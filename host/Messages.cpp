@@ -8,24 +8,27 @@ namespace Host {
 
 namespace {
 
-std::atomic<bool> areTaken{false};
+std::atomic<bool> areCollected{false};
+std::atomic<std::size_t> passed{0};
 
-class Teller final : public google::LogSink
+class Passing final : public google::LogSink
 {
 public:
-    explicit Teller(void (*tell)(std::string_view))
-        : m_tell(tell)
+    explicit Passing(void (*write)(std::string_view))
+        : m_write(write)
     {}
 
 private:
     void send(google::LogSeverity severity, char const *, char const *, int, tm const *, char const * message,
         std::size_t length) override
     {
-        if (severity >= google::GLOG_ERROR && !areTaken)
-            m_tell({message, length});
+        if (severity < google::GLOG_WARNING || areCollected)
+            return;
+        ++passed;
+        m_write({message, length});
     }
 
-    void (*m_tell)(std::string_view);
+    void (*m_write)(std::string_view);
 };
 
 } // namespace
@@ -33,8 +36,8 @@ private:
 class Messages::Sink final : public google::LogSink
 {
 public:
-    explicit Sink(nlohmann::json & lines)
-        : m_lines(lines)
+    explicit Sink(Messages & messages)
+        : m_messages(messages)
     {
         google::AddLogSink(this);
     }
@@ -44,32 +47,39 @@ private:
     void send(google::LogSeverity severity, char const *, char const *, int, tm const *, char const * message,
         std::size_t length) override
     {
-        if (severity >= google::GLOG_ERROR)
-            m_lines.push_back(std::string(message, length));
+        if (severity >= google::GLOG_WARNING)
+            (severity == google::GLOG_WARNING ? m_messages.warnings : m_messages.errors)
+                .push_back(std::string(message, length));
     }
 
-    nlohmann::json & m_lines;
+    Messages & m_messages;
 };
 
-void startMessages(char const * program, void (*tell)(std::string_view message))
+void startMessages(char const * program, void (*write)(std::string_view message))
 {
     google::InitGoogleLogging(program);
     for (google::LogSeverity severity = 0; severity < google::NUM_SEVERITIES; ++severity)
         google::SetLogDestination(severity, "");
     FLAGS_stderrthreshold = google::NUM_SEVERITIES;
-    static Teller teller(tell);
-    google::AddLogSink(&teller);
+    FLAGS_minloglevel = 0; // the environment may have raised it, and what is below reaches no sink
+    static Passing passing(write);
+    google::AddLogSink(&passing);
+}
+
+std::size_t messageCount()
+{
+    return passed;
 }
 
 Messages::Messages()
-    : m_sink(std::make_unique<Sink>(lines))
+    : m_sink(std::make_unique<Sink>(*this))
 {
-    areTaken = true;
+    areCollected = true;
 }
 
 Messages::~Messages()
 {
-    areTaken = false;
+    areCollected = false;
 }
 
 } // namespace Host

@@ -2,6 +2,7 @@
 /// What the library logs.
 #pragma once
 
+#include <cstddef>
 #include <memory>
 #include <string_view>
 
@@ -9,11 +10,14 @@
 
 namespace Host {
 
-/// Has every error that the library logs told by `tell`, on the thread that logs it, and nothing written into a file.
-/// Called once, at the start of the program.
-void startMessages(char const * program, void (*tell)(std::string_view message));
+/// Passes every warning and error that the library logs to `write`, on the thread that logs it, and keeps the log from
+/// writing files. Called once, at the start of the program.
+void startMessages(char const * program, void (*write)(std::string_view message));
 
-/// Takes the library's errors while it lives; they are told nowhere else then. One at a time.
+/// How many were passed so far.
+std::size_t messageCount();
+
+/// Collects what the library logs while it lives, instead of passing it on. One at a time.
 class Messages
 {
 public:
@@ -22,7 +26,8 @@ public:
     Messages(Messages const &) = delete;
     Messages & operator=(Messages const &) = delete;
 
-    nlohmann::json lines = nlohmann::json::array();
+    nlohmann::json errors = nlohmann::json::array();
+    nlohmann::json warnings = nlohmann::json::array();
 
 private:
     class Sink;

@@ -104,9 +104,12 @@ json RenderHost::convert(Effect::Object const & effect, RenderParams const & par
     json settings = json::array();
     for (auto const & one : record.settings)
         settings.push_back(toJson(trace.describe(*one)));
-    return {{"class", effect.GetNameInArchive()}, {"stageCode", record.stageCode},
+    json described{{"class", effect.GetNameInArchive()}, {"stageCode", record.stageCode},
         {"implementation", record.implementation}, {"settings", std::move(settings)},
-        {"log", std::move(messages.lines)}};
+        {"log", std::move(messages.errors)}};
+    if (!messages.warnings.empty())
+        described["warnings"] = std::move(messages.warnings);
+    return described;
 }
 
 } // namespace Host

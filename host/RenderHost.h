@@ -30,7 +30,8 @@ public:
     ~RenderHost();
 
     /// The record of one effect: `class`, `stageCode`, `implementation`, `settings` with the setter calls in the order
-    /// made and the public data members, and `log`, what the factory had to say.
+    /// made and the public data members, and `log`, the errors of the factory. Where there are any, `warnings` are
+    /// those of the loaders: what the effect refers to and is missing or broken.
     nlohmann::json convert(Effect::Object const & effect, RenderParams const & params);
 
 private:

@@ -90,10 +90,12 @@ TEST_F(CatalogueCommand, PrintsADocument)
     EXPECT_EQ(
         effects[0], (json{{"class", "Effect::BackgroundRemove"}, {"tag", Tags::tagBackgroundRemove.toStdString()},
                         {"id", Id::BackgroundRemove.toStdString()}, {"groupId", Id::BackgroundRemove.toStdString()},
-                        {"categories", {"category_a", "category_b"}}, {"user", false}}));
+                        {"categories", {"category_a", "category_b"}}, {"user", false},
+                        {"file", (stock() + "/VideoEffects/background.effect.json").toStdString()}}));
     json const colorFilters = itemsOf(document, "ColorFilters");
     ASSERT_EQ(colorFilters.size(), 1U);
     EXPECT_EQ(colorFilters[0]["user"], true);
+    EXPECT_EQ(colorFilters[0]["file"], (user() + "/Effects/ManualEnhance/mine.effect.json").toStdString());
     EXPECT_EQ(document["summary"], (json{{"items", 4}, {"unreadable", 0}}));
 }
 
@@ -121,11 +123,11 @@ TEST_F(CatalogueCommand, ConvertsEveryItem)
     EXPECT_EQ(itemsOf(document, "AudioEnhance")[0]["result"], "holder");
     EXPECT_EQ(itemsOf(document, "AudioEnhance")[0]["effects"], 2);
     EXPECT_EQ(document["summary"], (json{{"items", 4}, {"unreadable", 0}, {"converted", 2}, {"descriptors", 1},
-                                       {"holders", 1}, {"held", 2}, {"notConverted", 0}}));
+                                       {"holders", 1}, {"held", 2}, {"incomplete", 0}, {"notConverted", 0}}));
 
     EXPECT_THAT(effectctl(arguments({"--convert"})).output,
         testing::EndsWith("\n4 items: 2 converted, 1 descriptor, 1 holder with 2 effects converted each on its own, "
-                          "0 not converted; 0 files could not be read\n"));
+                          "0 incomplete, 0 not converted; 0 files could not be read\n"));
 }
 
 TEST_F(CatalogueCommand, TellsWhatDidNotConvert)
@@ -140,13 +142,51 @@ TEST_F(CatalogueCommand, TellsWhatDidNotConvert)
     json const document = json::parse(run.output);
     EXPECT_EQ(document["summary"]["notConverted"], 2);
     EXPECT_EQ(document["summary"]["converted"], 2);
+    std::string const folder = (stock() + "/VideoEffects/").toStdString();
     EXPECT_EQ(run.errors,
-        "effectctl: Effects: Effect::EffectsHolder \"\" did not convert: Settings requested for descriptor. Effect ID "
-        "is " +
-            Id::Normalize.toStdString() +
-            "\neffectctl: Effects: Effect::VideoEffect \"\" did not convert: Couldn't provide settings for unknown "
-            "effect. Effect ID is no-such-id\n");
+        "effectctl: " + folder +
+            "holder.effect.json: did not convert: Settings requested for descriptor. Effect ID is " +
+            Id::Normalize.toStdString() + "\neffectctl: " + folder +
+            "stranger.effect.json: did not convert: Couldn't provide settings for unknown effect. Effect ID is "
+            "no-such-id\n");
     // Not asked for, it is no failure.
+    EXPECT_EQ(effectctl(arguments()).status, 0);
+}
+
+TEST_F(CatalogueCommand, CountsItemsWhoseFilesAreMissingOrBroken)
+{
+    fill();
+    Mask mask;
+    FrameConceal frame;
+    mask.addFrame(*frame.setTrackingId("face"));
+    storeItem(stock() + "/Masks", "follows", mask);
+    write(user() + "/Tracks/face.track.json", "no track");
+    ShaderISF shader("broken.fs");
+    shader.resourcePath = stock() + "/VideoEffects/broken.fs";
+    storeItem(stock() + "/VideoEffects", "shader", shader);
+    write(shader.resourcePath, "void main() {}");
+
+    // However little the environment wants to have logged.
+    qputenv("GLOG_minloglevel", "3");
+    auto const run = effectctl(arguments({"--json", "--convert"}));
+    qunsetenv("GLOG_minloglevel");
+    EXPECT_EQ(run.status, 1);
+    json const document = json::parse(run.output);
+    EXPECT_EQ(document["summary"]["incomplete"], 2);
+    EXPECT_EQ(document["summary"]["converted"], 2);
+    EXPECT_EQ(document["summary"]["notConverted"], 0);
+    json const follows = itemsOf(document, "Masks")[0];
+    EXPECT_EQ(follows["result"], "incomplete");
+    ASSERT_EQ(follows["warnings"].size(), 1U);
+    EXPECT_THAT(follows["warnings"][0], StartsWith("Couldn't read motion track: "));
+    EXPECT_THAT(run.errors, HasSubstr((stock() + "/Masks/follows.effect.json: Couldn't read motion track: " + user() +
+                                       "/Tracks/face.track.json: ")
+                                          .toStdString()));
+    EXPECT_THAT(run.errors,
+        HasSubstr(
+            (stock() + "/VideoEffects/shader.effect.json: Couldn't load ISF shader \"broken.fs\": ").toStdString()));
+    EXPECT_EQ(std::count(run.errors.begin(), run.errors.end(), '\n'), 2) << run.errors;
+    // It is the conversion that needs the files.
     EXPECT_EQ(effectctl(arguments()).status, 0);
 }
 
@@ -169,9 +209,21 @@ TEST_F(CatalogueCommand, AFileThatCannotBeReadCostsNoOtherItem)
 
 TEST_F(CatalogueCommand, TakesAnEmptyStock)
 {
+    QDir().mkpath(stock() + "/Luts");
     auto const run = effectctl(arguments({"--convert"}));
     EXPECT_EQ(run.status, 0) << run.errors;
     EXPECT_THAT(run.output, HasSubstr("\n0 items: "));
+}
+
+TEST_F(CatalogueCommand, NoticesAWrongStockFolder)
+{
+    storeItem(user() + "/Effects/ManualEnhance", "mine", ManualEnhance());
+    auto const run = effectctl(arguments({"--json"}));
+    EXPECT_EQ(run.status, 1);
+    EXPECT_EQ(run.errors, "effectctl: " + stock().toStdString() +
+                              ": this is no stock folder, as it holds none of VideoEffects, OverlayEffects, "
+                              "AudioEffects, AudioEnhance, ColorFilters, Luts, PipEffects, Masks\n");
+    EXPECT_EQ(json::parse(run.output)["summary"]["items"], 1);
 }
 
 TEST_F(CatalogueCommand, NeedsItsFolders)

@@ -45,6 +45,15 @@ json answer(QByteArray const & request, QStringList const & options = {})
     return answers.size() == 1 ? answers[0] : json();
 }
 
+/// The error that a batch of one request answers with.
+std::string refusal(QByteArray const & request)
+{
+    auto const run = effectctl({"convert", "--batch"}, request + "\n");
+    EXPECT_EQ(run.status, 1) << request.toStdString();
+    auto const answers = answersOf(run);
+    return answers.size() == 1 ? answers[0].value("error", "") : "";
+}
+
 class FilesTest : public testing::Test
 {
 protected:
@@ -407,6 +416,43 @@ TEST_F(ManyFilesTest, SeveralFilesHaveHeadings)
         effectctl({"convert", crop, opacity}).output, HasSubstr("\n" + opacity.toStdString() + ":\nEffect::Opacity: "));
 }
 
+TEST_F(ManyFilesTest, AFileWithoutSettingsIsBadInput)
+{
+    Effect::ManualEnhance const idle;
+    QString const file = write("idle.json", Effect::Archive::toJson(idle));
+    std::string const reason =
+        "Couldn't provide settings for effect. Effect ID is " + Effect::Id::ManualEnhance.toStdString();
+    for (QStringList const & command : {QStringList{"convert"}, QStringList{"convert", "--json"}}) {
+        auto const run = effectctl(command + QStringList{file, crop});
+        EXPECT_EQ(run.status, 1);
+        EXPECT_EQ(run.errors, "effectctl: " + file.toStdString() + ": " + reason + "\n");
+        EXPECT_THAT(run.output, HasSubstr("Effect::Crop"));
+    }
+    json const record = json::parse(effectctl({"convert", "--json", file}).output)[0];
+    EXPECT_EQ(record["settings"], json::array());
+    EXPECT_EQ(record["log"], json::array({reason}));
+    EXPECT_FALSE(record.contains("error"));
+
+    // One inside a holder counts, a descriptor does not: nothing ever converts it.
+    Effect::AudioEnhance holder;
+    holder.addEffect(std::make_unique<Effect::ManualEnhance>());
+    EXPECT_EQ(effectctl({"convert", write("holder.json", Effect::Archive::toJson(holder))}).status, 1);
+    EXPECT_EQ(effectctl({"convert", write("d.json", Effect::Archive::toJson(Effect::AudioNormalize()))}).status, 0);
+}
+
+TEST_F(ManyFilesTest, AFileThatRefersToABrokenOneIsBadInput)
+{
+    Effect::ShaderISF shader("none.fs");
+    shader.resourcePath = path("none.fs");
+    QString const file = write("shader.json", Effect::Archive::toJson(shader));
+    auto const run = effectctl({"convert", file});
+    EXPECT_EQ(run.status, 1);
+    EXPECT_THAT(
+        run.errors, StartsWith("effectctl: " + file.toStdString() + ": Couldn't load ISF shader \"none.fs\": "));
+    EXPECT_THAT(run.output, StartsWith("Effect::ShaderISF: stage 18, DEFAULT\n"));
+    EXPECT_THAT(run.output, HasSubstr("\n  Couldn't load ISF shader \"none.fs\": "));
+}
+
 TEST_F(FilesTest, ConvertTellsTheCalls)
 {
     auto const run = effectctl({"convert", "--class", "Effect::Blur", "--set", "intensity=20"});
@@ -431,6 +477,56 @@ TEST_F(FilesTest, ConvertTakesAHolderApart)
     json const record = json::parse(effectctl({"convert", "--json", file}).output)[0];
     EXPECT_EQ(record["effects"][0]["settings"][0]["fields"]["channelCount"], 1);
     EXPECT_EQ(record["effects"][1], json());
+}
+
+TEST_F(FilesTest, ConvertTakesHoldersInHoldersApart)
+{
+    auto inner = std::make_unique<Effect::AudioEnhance>();
+    inner->addEffect(std::make_unique<Effect::AudioMonoChannel>());
+    Effect::EffectsHolder outer;
+    outer.addEffect(std::move(inner));
+    auto const run = effectctl({"convert", "--json", write("outer.json", Effect::Archive::toJson(outer))});
+    EXPECT_EQ(run.status, 0) << run.errors;
+    json const inside = json::parse(run.output)[0]["effects"][0];
+    EXPECT_EQ(inside["class"], "Effect::AudioEnhance");
+    EXPECT_EQ(inside["effects"][0]["settings"][0]["fields"]["channelCount"], 1);
+}
+
+TEST_F(FilesTest, ValuesAreJsonOrTexts)
+{
+    auto const set = [](QString const & pair) {
+        return effectctl({"convert", "--json", "--class", "Effect::Blur", "--set", pair});
+    };
+    EXPECT_EQ(set("tag=[\"a\"").status, 0); // no JSON, so a text
+    EXPECT_THAT(set("tag=[\"a\"]").errors, HasSubstr("found array"));
+    EXPECT_THAT(set("intensity=high").errors, HasSubstr("found string"));
+    // Deeper than any document: it is not walked.
+    EXPECT_EQ(set("tag=" + QString("[").repeated(60000) + QString("]").repeated(60000)).status, 0);
+}
+
+TEST_F(FilesTest, FilesForResourcesAndTracksMustExist)
+{
+    for (QString const & option : {QString("--resource"), QString("--track")}) {
+        auto const run = effectctl({"convert", "--batch", option, "x=nowhere"}, "{\"class\": \"Effect::Crop\"}\n");
+        EXPECT_EQ(run.status, 1);
+        EXPECT_EQ(run.output, "");
+        EXPECT_EQ(run.errors, "effectctl: nowhere: No such file or directory\n");
+    }
+}
+
+TEST_F(FilesTest, WarningsStandBesideTheLog)
+{
+    QByteArray const request = R"({"class": "Effect::Mask", "fields": {"concealFrames": [
+        {"Effect::Frame": {"trackingId": "face"}}]}})";
+    QString const broken = write("face.track.json", "no track");
+    json const record = answer(QByteArray(request).replace('\n', ' '), {"--track", "face=" + broken});
+    EXPECT_EQ(record["log"], json::array());
+    ASSERT_EQ(record["warnings"].size(), 1U);
+    EXPECT_THAT(record["warnings"][0], StartsWith("Couldn't read motion track: " + broken.toStdString() + ": "));
+    EXPECT_EQ(record["settings"].size(), 1U);
+    QString const whole = write("whole.track.json", R"({"frames": []})");
+    json const fine = answer(QByteArray(request).replace('\n', ' '), {"--track", "face=" + whole});
+    EXPECT_FALSE(fine.contains("warnings"));
 }
 
 TEST(BatchConversion, AnswersInTheDocumentedForm)
@@ -506,6 +602,25 @@ TEST_F(FilesTest, GoesOnBehindAShaderThatIsNoUtf8)
         EXPECT_EQ(answers[0]["class"], "Effect::ShaderISF");
         EXPECT_EQ(answers[1]["class"], "Effect::Crop");
     }
+}
+
+TEST(BatchConversion, RefusesUnknownKeys)
+{
+    EXPECT_EQ(refusal(R"({"class": "Effect::Blur", "objects": {"intensity": 20}})"),
+        R"(a request has no key "objects", only "class", "fields", "object", "video", "audio", "as")");
+    EXPECT_EQ(refusal(R"({"class": "Effect::AudioReverb", "audio": {"samplerate": 22050}})"),
+        R"("audio" has no key "samplerate", only "sampleRate")");
+    EXPECT_EQ(refusal(R"({"class": "Effect::Blur", "video": {"size": [1, 2]}})"),
+        R"("video" has no key "size", only "frameGeometry", "duration")");
+}
+
+TEST(BatchConversion, FailsAsAWholeWhenEveryRequestDoes)
+{
+    auto const run = effectctl({"convert", "--batch"}, "no JSON\n{\"class\": \"Effect::None\"}\n");
+    EXPECT_EQ(run.status, 1);
+    EXPECT_EQ(answersOf(run).size(), 2U);
+    EXPECT_EQ(run.errors, "effectctl: 2 of 2 requests failed\n");
+    EXPECT_EQ(effectctl({"convert", "--batch"}, "\n").status, 0);
 }
 
 } // namespace

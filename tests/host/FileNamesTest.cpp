@@ -111,6 +111,8 @@ TEST_P(FileNames, MessagesAreUtf8)
     EXPECT_EQ(run("$effectctl archive $'caf\\xe9.json' $'\\xf6/x.bin'").errors,
         "effectctl: \uFFFD/x.bin: No such file or directory\n");
     EXPECT_THAT(run("$effectctl archive $'caf\\xe9.json' $'x.\\xf6'").errors, HasSubstr("x.\uFFFD ends neither"));
+    EXPECT_EQ(run("mkdir $'s\\xf6'; $effectctl catalogue --stock $'s\\xf6'").errors,
+        "effectctl: s\uFFFD: items cannot be read from a folder whose name is not UTF-8\n");
 }
 
 } // namespace
