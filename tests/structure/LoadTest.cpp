@@ -41,7 +41,7 @@ TEST(Load, LibraryLoadsUnloadsAndLoadsAgainWithEveryReferenceResolved)
         EXPECT_EQ(dlsym(library, "_ZTVN6Effect13ColorMixFieldE"), nullptr);
         ASSERT_EQ(dlclose(library), 0) << dlerror();
         // It has gone, and is not merely closed.
-        EXPECT_THAT(loadedLibraries(), Not(Contains(HasSubstr("libEditorEffects")))) << "in round " << round;
+        EXPECT_THAT(loadedLibraries(), Not(Contains(HasSubstr("libEditorEffects.so")))) << "in round " << round;
     }
 }
 
@@ -61,7 +61,7 @@ TEST(Load, PluginThatUsesTheLibraryFindsEveryEffectEachTime)
         ASSERT_NE(archiveEveryEffect, nullptr) << dlerror();
         EXPECT_EQ(archiveEveryEffect(), effects) << "in round " << round;
         ASSERT_EQ(dlclose(plugin), 0) << dlerror();
-        EXPECT_THAT(loadedLibraries(), Not(Contains(HasSubstr("libEditorEffects")))) << "in round " << round;
+        EXPECT_THAT(loadedLibraries(), Not(Contains(HasSubstr("libEditorEffects.so")))) << "in round " << round;
     }
 }
 
