@@ -38,12 +38,22 @@ json describe(std::string const & className)
     return described;
 }
 
-void list(bool asJson)
+struct Options
+{
+    bool asJson = false;
+    bool effects = false;
+};
+
+void list(Options const & options)
 {
     json classes = json::array();
-    for (std::string const & name : Serialize::Registry::names())
-        classes.push_back(describe(name));
-    if (asJson)
+    for (std::string const & name : Serialize::Registry::names()) {
+        json described = describe(name);
+        bool const isEffect = !described["id"].is_null();
+        if (isEffect || !options.effects)
+            classes.push_back(std::move(described));
+    }
+    if (options.asJson)
         return printJson(classes);
 
     std::vector<std::vector<std::string>> rows{{"CLASS", "BASE", "TAG", "FIELDS"}};
@@ -62,13 +72,14 @@ void list(bool asJson)
 void addList(CLI::App & program)
 {
     auto * const command = program.add_subcommand("list", "Every class that can stand in an archive");
-    auto const asJson = std::make_shared<bool>(false);
-    command->add_flag("--json", *asJson, "Print one JSON document, an array with an object for each class");
+    auto const options = std::make_shared<Options>();
+    command->add_flag("--json", options->asJson, "Print one JSON document, an array with an object for each class");
+    command->add_flag("--effects", options->effects, "Only classes of effects, without those of records inside them");
     setExamples(*command,
         "  effectctl list\n"
         "  effectctl list | cut -f 1                     (off a terminal, tabs stand between the columns)\n"
         "  effectctl list --json | jq '.[] | select(.isTwoInput) | .class'");
-    command->callback([asJson] { list(*asJson); });
+    command->callback([options] { list(*options); });
 }
 
 } // namespace Host

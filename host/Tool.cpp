@@ -2,6 +2,7 @@
 #include <utils/EffectUtils.h>
 
 #include "Command.h"
+#include "Documents.h"
 #include "Files.h"
 #include "Output.h"
 #include "RenderHost.h"
@@ -13,28 +14,57 @@ using nlohmann::json;
 
 namespace {
 
-json describe(std::string const & file)
+struct Options : FileOptions
 {
-    auto const effect = readEffect(file);
-    Tool::Type const tool = Effect::Utils::findCorrespondingTool(*effect);
-    return {{"class", effect->GetNameInArchive()}, {"tool", static_cast<int>(tool)}, {"name", toolName(tool)}};
+    std::string className;
+};
+
+json describe(Effect::Object const & effect)
+{
+    Tool::Type const tool = Effect::Utils::findCorrespondingTool(effect);
+    return {{"class", effect.GetNameInArchive()}, {"tool", static_cast<int>(tool)}, {"name", toolName(tool)}};
 }
 
-void tool(FileOptions const & options)
+/// The cells behind that of the file.
+std::vector<std::string> cells(json const & found)
 {
-    // The stock's audio effects tell the tool of an effect that nothing else does.
-    EditorCollection::ItemStorage storage;
-    RenderHost const host(storage);
-    storage.waitForAll();
+    return {found["class"], toText(found["tool"]), found["name"]};
+}
 
+void toolOfClass(Options const & options)
+{
+    json const found = describe(*createEffect(options.className));
+    if (options.asJson)
+        printJson(found);
+    else
+        printTable({{"CLASS", "TOOL", "NAME"}, cells(found)});
+}
+
+void toolOfFiles(Options const & options)
+{
     std::vector<std::vector<std::string>> rows{{"FILE", "CLASS", "TOOL", "NAME"}};
     bool const allDone = describeFiles(options, expand(options.arguments, effectSuffixes),
-        {"Finding tools", describe, [&rows](json const & found) {
-             rows.push_back({quoted(found["file"]), found["class"], found["tool"].dump(), found["name"]});
-         }});
+        {"Finding tools", [](std::string const & file) { return describe(*readEffect(file)); },
+            [&rows](json const & found) {
+                auto row = cells(found);
+                row.insert(row.begin(), quoted(found["file"]));
+                rows.push_back(std::move(row));
+            }});
     if (rows.size() > 1)
         printTable(rows);
     endWith(allDone);
+}
+
+void tool(Options const & options)
+{
+    // Some effects have the tool of the stock's audio effects, which are needed to know them.
+    EditorCollection::ItemStorage storage;
+    RenderHost const host(storage);
+    storage.waitForAll();
+    if (options.className.empty())
+        toolOfFiles(options);
+    else
+        toolOfClass(options);
 }
 
 } // namespace
@@ -42,10 +72,12 @@ void tool(FileOptions const & options)
 void addTool(CLI::App & program)
 {
     auto * const command = program.add_subcommand("tool", "The editor's tool for an effect");
-    auto const options = std::make_shared<FileOptions>();
-    addFiles(*command, *options, "Archives in either form or items")->required();
-    command->add_flag("--json", options->asJson, filesAsJson);
+    auto const options = std::make_shared<Options>();
+    auto * const files = addFiles(*command, *options, "Archives in either form or items");
+    addClass(*command, options->className, {files});
+    command->add_flag("--json", options->asJson, std::string(filesAsJson) + "; for --class, the object alone");
     setExamples(*command, "  effectctl tool crop.json\n"
+                          "  effectctl tool --class Effect::Crop\n"
                           "  effectctl tool --json crop.json echo.bin\n"
                           "  effectctl tool stock/AudioEffects");
     command->callback([options] { tool(*options); });

@@ -27,18 +27,21 @@ _effectctl()
         '')
             _effectctl_words "--help --version list show archive convert catalogue lut tool"
             return ;;
-        list) options+=' --json' ;;
+        list) options+=' --json --effects' ;;
         show) options+=' --class --json' ;;
         archive) options+=' --format' ;;
         convert) options+=' --batch --class --set --resource --track --json' ;;
         catalogue) options+=' --stock --user --json --convert' ;;
-        lut | tool) options+=' --json' ;;
+        lut) options+=' --json' ;;
+        tool) options+=' --class --json' ;;
         *) return ;;
     esac
 
     case $previous in
         --class)
-            _effectctl_words "$("${words[0]}" list 2>/dev/null | tail -n +2 | cut -f 1)"
+            local which=--effects
+            [[ $command == show ]] && which=
+            _effectctl_words "$("${words[0]}" list $which 2>/dev/null | tail -n +2 | cut -f 1)"
             return ;;
         --format)
             _effectctl_words "json bin"
@@ -47,7 +50,11 @@ _effectctl()
             compopt -o filenames 2>/dev/null
             mapfile -t COMPREPLY < <(compgen -d -- "$word")
             return ;;
-        --set) return ;;
+        --set)
+            [[ $word == *=* ]] && return
+            compopt -o nospace 2>/dev/null
+            _effectctl_words "$(_effectctl_keys)"
+            return ;;
         --resource | --track)
             [[ $word == *=* ]] && _effectctl_files "${word#*=}"
             return ;;
@@ -57,6 +64,21 @@ _effectctl()
     elif [[ $command != list && $command != catalogue ]]; then
         _effectctl_files "$word"
     fi
+}
+
+# The keys of the class that the line names, as `KEY=`. A range has its key only where there is one.
+_effectctl_keys()
+{
+    local name='' index
+    for ((index = 1; index < ${#words[@]} - 1; ++index)); do
+        case ${words[index]} in
+            --class) name=${words[index + 1]} ;;
+            --class=*) name=${words[index]#*=} ;;
+        esac
+    done
+    [[ -n $name ]] || return
+    "${words[0]}" show --class "$name" 2>/dev/null | sed -n 's/^  \([A-Za-z_0-9]*\)  .*/\1=/p'
+    printf 'range=\n'
 }
 
 # Those of the words that begin as the current one. Where bash parts words at colons, it replaces only what is behind

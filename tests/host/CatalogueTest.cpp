@@ -277,6 +277,18 @@ TEST_F(ToolCommand, TellsTheTool)
         (json::array({{{"file", crop.toStdString()}, {"class", "Effect::Crop"}, {"tool", 5}, {"name", "crop"}}})));
 }
 
+TEST_F(ToolCommand, TellsTheToolOfAClass)
+{
+    auto const run = effectctl({"tool", "--class", "Effect::AudioAiDenoise"});
+    EXPECT_EQ(run.status, 0) << run.errors;
+    EXPECT_EQ(run.output, "CLASS\tTOOL\tNAME\nEffect::AudioAiDenoise\t17\taudio noise reduction\n");
+    EXPECT_EQ(json::parse(effectctl({"tool", "--json", "--class", "Effect::Crop"}).output),
+        (json{{"class", "Effect::Crop"}, {"tool", 5}, {"name", "crop"}}));
+    EXPECT_EQ(effectctl({"tool", "--class", "Effect::Frame"}).errors,
+        "effectctl: the class \"Effect::Frame\" is no effect's\n");
+    EXPECT_EQ(effectctl({"tool", "--class", "Effect::Crop", archive("Crop")}).status, 2);
+}
+
 TEST_F(ToolCommand, AsksTheStocksAudioEffects)
 {
     QString const mono = archive("AudioMonoChannel");

@@ -162,7 +162,13 @@ TEST(Completion, BashOffersClassesAndFiles)
     EXPECT_EQ(bashOffers("effectctl show --class Effect::Cro"), Words{"Crop"});
     EXPECT_EQ(bashOffers("effectctl convert --class=Effect::ChromaK"), Words{"ChromaKey"});
     EXPECT_EQ(bashOffers("effectctl show --class ").size(), 89U);
-    EXPECT_EQ(bashOffers("effectctl show --class ").count("Effect::Crop"), 1U);
+    EXPECT_EQ(bashOffers("effectctl show --class ").count("Effect::Frame"), 1U);
+    // Records that are no effects have neither settings nor a tool.
+    for (char const * const command : {"convert", "tool"}) {
+        Words const offered = bashOffers(std::string("effectctl ") + command + " --class ");
+        EXPECT_EQ(offered.count("Effect::Frame"), 0U) << command;
+        EXPECT_EQ(offered.count("Effect::AlphaInserter"), 1U) << command;
+    }
     QTemporaryDir const folder;
     std::ofstream(folder.filePath("one.json").toStdString()) << "{}";
     std::string const start = folder.path().toStdString() + "/o";
@@ -173,8 +179,21 @@ TEST(Completion, BashOffersClassesAndFiles)
     EXPECT_EQ(bashOffers("effectctl list "), Words{});
 }
 
+TEST(Completion, BashOffersTheKeysOfTheClass)
+{
+    Words const common{"tag=", "id=", "groupId=", "intensity=", "resource=", "resourcePath=", "range="};
+    for (char const * const before : {"--class Effect::Opacity --set ", "--class=Effect::Opacity --set="}) {
+        Words expected = common;
+        expected.insert("opacity=");
+        EXPECT_EQ(bashOffers(std::string("effectctl convert ") + before), expected) << before;
+    }
+    EXPECT_EQ(bashOffers("effectctl convert --class Effect::AudioReverb --json --set dry"), Words{"dryWetBalance="});
+    EXPECT_EQ(bashOffers("effectctl convert --class Effect::Opacity --set opacity="), Words{});
+    EXPECT_EQ(bashOffers("effectctl convert --set "), Words{});
+}
+
 /// A shell of the user's, in which the tabulator key completes.
-std::string completedBy(std::vector<std::string> command, std::string const & setup)
+std::string completedBy(std::vector<std::string> command, std::string const & setup, std::string const & line)
 {
     std::string const folder = QFileInfo(EFFECTCTL).path().toStdString();
     std::string const path = folder + ':' + qEnvironmentVariable("PATH").toStdString();
@@ -182,20 +201,26 @@ std::string completedBy(std::vector<std::string> command, std::string const & se
     // Told by arithmetic, so that its own echo is something else.
     terminal.type(setup + "; echo ready$((6*7))\n");
     terminal.readUntil("ready42");
-    terminal.type("effectctl sho\t--class Effect::Cro\t--js\t; echo done$((6*7))\n");
+    terminal.type(line + "; echo done$((6*7))\n");
     std::string const screen = terminal.readUntil("done42");
     terminal.type("exit\n");
     terminal.readAll();
     return screen;
 }
 
+constexpr char const * showLine = "effectctl sho\t--class Effect::Cro\t--js\t";
+constexpr char const * convertLine = "effectctl conv\t--class Effect::Opac\t--set opa\t0.5";
+
 TEST(Completion, WorksInBash)
 {
     if (auto const reason = whyNoTerminal(); !reason.empty())
         GTEST_SKIP() << reason;
-    EXPECT_THAT(completedBy({"bash", "--norc", "--noprofile", "-i"},
-                    "source " + hostFolder.toStdString() + "/completion/effectctl.bash"),
-        HasSubstr("\"class\": \"Effect::Crop\""));
+    auto const completed = [](std::string const & line) {
+        return completedBy({"bash", "--norc", "--noprofile", "-i"},
+            "source " + hostFolder.toStdString() + "/completion/effectctl.bash", line);
+    };
+    EXPECT_THAT(completed(showLine), HasSubstr("\"class\": \"Effect::Crop\""));
+    EXPECT_THAT(completed(convertLine), HasSubstr("opacity\033[0m = 0.5"));
 }
 
 TEST(Completion, WorksInZsh)
@@ -205,9 +230,12 @@ TEST(Completion, WorksInZsh)
     if (auto const reason = whyNoTerminal(); !reason.empty())
         GTEST_SKIP() << reason;
     EXPECT_EQ(runProgram("zsh", {"-n", hostFolder + "/completion/_effectctl"}).status, 0);
-    EXPECT_THAT(completedBy({"zsh", "-f", "-i"},
-                    "fpath=(" + hostFolder.toStdString() + "/completion $fpath); autoload -U compinit; compinit -u -D"),
-        HasSubstr("\"class\": \"Effect::Crop\""));
+    auto const completed = [](std::string const & line) {
+        return completedBy({"zsh", "-f", "-i"},
+            "fpath=(" + hostFolder.toStdString() + "/completion $fpath); autoload -U compinit; compinit -u -D", line);
+    };
+    EXPECT_THAT(completed(showLine), HasSubstr("\"class\": \"Effect::Crop\""));
+    EXPECT_THAT(completed(convertLine), HasSubstr("opacity\033[0m = 0.5"));
 }
 
 TEST(Completion, ZshKnowsEveryCommandAndOption)
@@ -224,7 +252,7 @@ TEST(Completion, ZshKnowsEveryCommandAndOption)
         Words options = matches(told, "(--[a-z]+)");
         EXPECT_THAT(told, HasSubstr("$help"));
         options.insert("--help");
-        if (told.find("$class") != std::string::npos)
+        if (told.find("$class") != std::string::npos || told.find("$effect") != std::string::npos)
             options.insert("--class");
         EXPECT_EQ(options, optionsOf(command)) << command;
     }
