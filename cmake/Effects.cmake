@@ -1,7 +1,8 @@
 # The product: one shared library, made of object files that the tests of its
 # hidden classes can link as well.
 
-# Installed, below the include folder of the package, with the headers and the .def files of the exported families.
+# Installed, below the include folder of the package, with the headers and the .def files of the exported families
+# and the headers that are generated.
 set(EDITOREFFECTS_PUBLIC_HEADERS
   collection/Effects/ContentProvider.h
   effects/EffectClass.h
@@ -18,6 +19,8 @@ set(EDITOREFFECTS_PUBLIC_HEADERS
 # initialisers run in this order: the exported classes and their constants, then the hidden ones.
 set(exported_families Base ColorCorrection Geometry Composition Mask Shaders Equalizer Dynamics Modulation CleanUp Holder)
 set(hidden_families Mirroring Blur Distortion Artistic Retro ColorFilters Light Voice)
+list(TRANSFORM exported_families REPLACE "(.+)" "effects/\\1.h" OUTPUT_VARIABLE family_headers)
+list(APPEND EDITOREFFECTS_PUBLIC_HEADERS ${family_headers})
 
 # What C++ needs of the list, below build/generated/effects: .def files and headers that include those of the families,
 # and Families.def with a line for each family.

@@ -45,12 +45,11 @@ set_target_properties(EditorEffects PROPERTIES
 install(TARGETS EditorEffects EXPORT EditorEffectsTargets
   LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}" COMPONENT runtime NAMELINK_COMPONENT development)
 
-list(TRANSFORM exported_families REPLACE "(.+)" "effects/\\1.h" OUTPUT_VARIABLE family_headers)
 list(TRANSFORM exported_families REPLACE "(.+)" "effects/\\1.def" OUTPUT_VARIABLE family_rows)
 install(FILES
   "${EDITOREFFECTS_GENERATED}/effects/Effects.h" "${EDITOREFFECTS_GENERATED}/effects/ExportedFamilies.def"
   DESTINATION "${EDITOR_INCLUDEDIR}/effects" COMPONENT development)
-foreach(header IN LISTS EDITOREFFECTS_PUBLIC_HEADERS family_headers family_rows)
+foreach(header IN LISTS EDITOREFFECTS_PUBLIC_HEADERS family_rows)
   cmake_path(GET header PARENT_PATH folder)
   install(FILES "${header}" DESTINATION "${EDITOR_INCLUDEDIR}/${folder}" COMPONENT development)
 endforeach()

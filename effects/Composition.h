@@ -143,6 +143,7 @@ struct EFFECTS_API ColorBlendingBase : VideoEffect
         {13, "Mode13", "Mode 13"},
     };
 
+    /// Takes the identifier and the group; the mode is 5.
     ColorBlendingBase(QString const & effectId, QString const & group);
 
     Mode mode{5}; ///< how the pictures are blended

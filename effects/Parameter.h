@@ -33,7 +33,9 @@ enum class Beyond : std::uint8_t
 
 /// Units of parameters, as they are shown.
 namespace Unit {
-inline constexpr char const * engine = "engine"; ///< known to the render engine alone
+/// @{
+/// As its name says; `engine` is known to the render engine alone.
+inline constexpr char const * engine = "engine";
 inline constexpr char const * hertz = "Hz";
 inline constexpr char const * decibels = "dB";
 inline constexpr char const * milliseconds = "ms";
@@ -42,12 +44,13 @@ inline constexpr char const * percent = "%";
 inline constexpr char const * degrees = "°";
 inline constexpr char const * pixels = "px";
 inline constexpr char const * octaves = "octaves";
+/// @}
 } // namespace Unit
 
 /// One value of an enumeration.
 struct Choice
 {
-    std::int32_t value;
+    std::int32_t value; ///< in the archives
     char const * name;  ///< for command lines and scripts: a word
     char const * label; ///< for people
 };
@@ -55,10 +58,11 @@ struct Choice
 /// A limit that may be absent.
 struct Limit
 {
-    bool isSet = false;
-    double value = 0;
+    bool isSet = false; ///< whether there is one
+    double value = 0;   ///< of the limit, if there is one
 
-    constexpr Limit() = default;
+    constexpr Limit() = default; ///< none
+    /// A limit of that value.
     constexpr Limit(double limit)
         : isSet(true)
         , value(limit)
@@ -68,6 +72,8 @@ struct Limit
 /// What is known of a parameter besides its key and its type.
 struct ParameterTraits
 {
+    /// @{
+    /// See the function of that name in `ParameterBuilder`.
     char const * label = "";
     char const * text = "";
     char const * unit = "";
@@ -81,6 +87,7 @@ struct ParameterTraits
     Limit fallback;
     bool isColor = false;
     bool isEffective = true;
+    /// @}
 };
 
 /// The members by which a description is put together; each returns a changed copy.
@@ -97,7 +104,9 @@ template <class Self> struct ParameterBuilder : ParameterTraits
     {
         return with(&ParameterTraits::minimum, least).with(&ParameterTraits::maximum, most);
     }
+    /// A hard bound below.
     constexpr Self atLeast(double least) const { return with(&ParameterTraits::minimum, Limit(least)); }
+    /// A hard bound above.
     constexpr Self atMost(double most) const { return with(&ParameterTraits::maximum, Limit(most)); }
     /// The ends of a slider, where there is a reason for them.
     constexpr Self suggest(double least, double most) const
@@ -111,6 +120,7 @@ template <class Self> struct ParameterBuilder : ParameterTraits
         return with(&ParameterTraits::choices, static_cast<Choice const *>(values))
             .with(&ParameterTraits::choiceCount, count);
     }
+    /// What the conversion makes of values beyond the hard bounds, or of a number that is no choice.
     constexpr Self beyond(Beyond value) const { return with(&ParameterTraits::beyond, value); }
     /// Any value beyond counts as this one.
     constexpr Self fallback(double value) const
@@ -134,9 +144,10 @@ private:
 /// One field: the key under which it is archived, the member that holds it, and its traits.
 template <class Class, class Value> struct Parameter : ParameterBuilder<Parameter<Class, Value>>
 {
-    char const * key;
-    Value Class::*member;
+    char const * key;     ///< in the archives
+    Value Class::*member; ///< that holds the value
 
+    /// A field without traits; see `parameter`.
     constexpr Parameter(char const * archiveKey, Value Class::*field)
         : key(archiveKey)
         , member(field)
@@ -153,8 +164,9 @@ template <class Class, class Value> constexpr Parameter<Class, Value> parameter(
 /// than `Effect::Object` does: texts that are empty and limits that are not set stay as they are there.
 struct Inherited : ParameterBuilder<Inherited>
 {
-    char const * key;
+    char const * key; ///< in the archives
 
+    /// The field with that key; see `readsIntensity` and its like.
     constexpr explicit Inherited(char const * archiveKey)
         : key(archiveKey)
     {}
@@ -179,11 +191,12 @@ constexpr Inherited readsResourcePath()
 /// A class: what it does, and its fields.
 template <class Own, class Adjusted> struct Description
 {
-    char const * text;
+    char const * text; ///< one or two sentences for the person who chooses an effect
     Own own;           ///< tuple of `Parameter`, in the order of the binary archives, which never changes
     Adjusted adjusted; ///< tuple of `Inherited`
 };
 
+/// @cond
 namespace Detail {
 
 template <class Class, class Value> constexpr auto ownOnly(Parameter<Class, Value> const & item)
@@ -204,6 +217,7 @@ constexpr auto inheritedOnly(Inherited const & item)
 }
 
 } // namespace Detail
+/// @endcond
 
 /// @param text   one or two sentences for the person who chooses an effect
 /// @param items  the own parameters in the order of the binary archives, and inherited ones anywhere

@@ -63,8 +63,8 @@ struct EFFECTS_API Parameter
     std::string key;     ///< in the archives
     std::string pointer; ///< JSON pointer into the class's archive document: "/Effect::VideoEffect/Effect::Object/id"
     std::string owner;   ///< archive name of the class that declares it
-    Kind kind = Kind::Boolean;
-    std::string type; ///< C++ type, such as "int32" or "Types::Transform"
+    Kind kind = Kind::Boolean; ///< what a panel shows it as
+    std::string type;          ///< C++ type, such as "int32" or "Types::Transform"
     std::string unit; ///< as it is shown, "engine" where only the render engine knows it; empty where there is none
     /// @{
     /// Bounds of the conversion or of a format. Numbers beyond are valid; `beyond` says what they do.
@@ -111,6 +111,8 @@ public:
     std::string family;      ///< "Blur": its header is <effects/Blur.h>
     bool isExported = false; ///< whether the C++ class is in an installed header
     bool isEffect = false;   ///< whether it derives from `Effect::Object`; what follows is empty for other classes
+    /// @{
+    /// Of a new effect of the class.
     QString id;
     QString groupId;
     QString tag;
@@ -119,6 +121,7 @@ public:
     Impl impl = Impl::Descriptor;
     bool hasIntensity = false;
     bool isTwoInput = false;
+    /// @}
     double intensity = 0;         ///< of a new effect
     QString processingSettingsId; ///< of a new effect
     bool isConverted = false;     ///< whether the factory makes settings of it

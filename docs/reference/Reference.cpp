@@ -12,6 +12,7 @@
 #include <EditorModel/CollectionProvider.h>
 #include <EditorSettings/Settings.h>
 #include <EditorUtil/ItemStorage.h>
+#include <effects/Base.h>
 #include <effects/Schema.h>
 #include <host/Documents.h>
 #include <host/Messages.h>
@@ -69,7 +70,7 @@ std::string boundsOf(Parameter const & parameter)
     for (Effect::Choice const & choice : parameter.choices)
         text += (text.empty() ? "" : ", ") + std::to_string(choice.value) + " " + choice.name;
     if (parameter.beyond) {
-        text += std::string("; beyond: ") + toString(*parameter.beyond);
+        text += std::string("; beyond: ") + Effect::Schema::toString(*parameter.beyond);
         if (parameter.fallback)
             text += " " + number(*parameter.fallback);
     }
@@ -137,7 +138,7 @@ private:
     static std::string typeName(Parameter const & parameter)
     {
         return parameter.kind == Kind::Enumeration || parameter.kind == Kind::Color
-                   ? parameter.type + ", " + toString(parameter.kind)
+                   ? parameter.type + ", " + Effect::Schema::toString(parameter.kind)
                    : "`" + parameter.type + "`";
     }
 

@@ -7,8 +7,8 @@
 #include <EditorUtil/MotionTrackingSmoothPath.h>
 #include <effects/Identity.h>
 #include <effects/Mask.h>
-#include <Settings/SettingsMask.h>
 #include <MTime/MTime.h>
+#include <Settings/SettingsMask.h>
 
 #include <QPointF>
 #include <QRectF>

@@ -109,8 +109,8 @@ void ItemLoads::load(
     {
         std::lock_guard const lock(m_state->mutex);
         auto & deliveries = m_state->deliveries;
-        deliveries.erase(std::remove_if(deliveries.begin(), deliveries.end(),
-                             [](auto const & load) { return load.expired(); }),
+        deliveries.erase(
+            std::remove_if(deliveries.begin(), deliveries.end(), [](auto const & load) { return load.expired(); }),
             deliveries.end());
         deliveries.push_back(delivery);
     }

@@ -1,7 +1,7 @@
 #include <cmath>
 #include <limits>
 
-#include <collection/Effects/Stages.h>
+#include <collection/Effects/Conversions.h>
 #include <effects/ColorCorrection.h>
 #include <effects/Identity.h>
 #include <Settings/SettingsColor.h>
@@ -183,7 +183,10 @@ TEST_F(ColorCorrectionConversion, SlidersAtRestGiveTheEmptyRecordAndAMessage)
 
 TEST(ManualEnhanceConverter, SlidersAtRestGiveARecordOfNothing)
 {
-    auto const record = Factory::convertManualEnhance(ManualEnhance(), {});
+    Factory::Conversions table;
+    Factory::addColorCorrection(table);
+    Factory::FactoryCaches caches;
+    auto const record = table.video.value(Id::ManualEnhance).convert(ManualEnhance(), {{}, caches});
     EXPECT_THAT(record.settings, IsEmpty());
     EXPECT_EQ(record.stageCode, 18);
     EXPECT_EQ(record.implementation, "DEFAULT");

@@ -229,8 +229,8 @@ TEST_F(CompositionConversion, ATenthOverTheLeftEdgeCostsTheTargetATenth)
     // [-0.05, 0, 0.45, 1].
     SideBySide effect;
     effect.setTransformSrc(scaled(0.5, 1, -0.3))->setTransformDst(scaled(0.5, 1, 0.25));
-    SubFrame frame;
-    Factory::fill(frame, effect, {});
+    auto const record = Factory::videoEffectSettings(effect, {});
+    auto const & frame = dynamic_cast<SubFrame const &>(*record.settings.at(0));
     EXPECT_EQ(frame.srcLeft, 0);
     EXPECT_NEAR(frame.srcRight, 0.45, 1e-15);
     EXPECT_NEAR(frame.dstLeft, 0.55, 1e-15);
@@ -241,8 +241,8 @@ TEST_F(CompositionConversion, ASourceWithoutWidthHasNoDefiniteTarget)
 {
     SideBySide effect;
     effect.setTransformSrc(scaled(0, 1));
-    SubFrame frame;
-    Factory::fill(frame, effect, {});
+    auto const record = Factory::videoEffectSettings(effect, {});
+    auto const & frame = dynamic_cast<SubFrame const &>(*record.settings.at(0));
     EXPECT_THAT((std::array{frame.srcLeft, frame.srcTop, frame.srcRight, frame.srcBottom}), ElementsAre(0, 0, 0, 0));
     EXPECT_TRUE(std::isnan(frame.dstLeft));
     EXPECT_TRUE(std::isnan(frame.dstRight));

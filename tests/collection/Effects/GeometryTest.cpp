@@ -75,8 +75,8 @@ TEST_F(GeometryConversion, TransposeTakesTheEndsOfTheRange)
     for (int const angle : {std::numeric_limits<int>::min(), std::numeric_limits<int>::max()}) {
         Transpose effect;
         effect.setAngle(angle);
-        Proc converted;
-        Factory::fill(converted, effect, {});
+        auto const record = Factory::videoEffectSettings(effect, {});
+        auto const & converted = dynamic_cast<Proc const &>(*record.settings.at(0));
         EXPECT_NEAR(std::hypot(converted.matrix[0], converted.matrix[1]), 1, 1e-15);
     }
 }

@@ -5,8 +5,10 @@
 
 #include <collection/Effects/FactoryCaches.h>
 #include <collection/Effects/Stages.h>
+#include <effects/Blur.h>
 #include <effects/Light.h>
 #include <effects/PrivateIdentity.h>
+#include <Settings/SettingsBlur.h>
 #include <Settings/SettingsLight.h>
 #include <Settings/Value.h>
 #include <support/Conversion.h>
@@ -136,15 +138,6 @@ TEST_F(FlyingObjectsConversion, UnknownPresetsHaveTheNearestImageAndNoFlight)
             settings("SettingsEffectFlyingObjects", imageOfWidth(row.width) + R"(, ["SetIntensity", 1])",
                 R"("paramsHead": [3, 2], "firstValue": 0, "secondValue": 0, "thirdValue": 0)"),
             {{3, 2}, 0});
-
-        // Not even zeros are written.
-        Factory::FactoryCaches caches;
-        Proc::SettingsEffectFlyingObjects untouched;
-        untouched.firstValue = untouched.secondValue = untouched.thirdValue = 77;
-        Factory::fill(untouched, flying(row.preset), Factory::VideoContext({}, caches));
-        EXPECT_EQ(untouched.firstValue, 77);
-        EXPECT_EQ(untouched.secondValue, 77);
-        EXPECT_EQ(untouched.thirdValue, 77);
     }
 }
 
@@ -182,15 +175,14 @@ TEST_F(LightConversion, LensFlareWritesThePresetsThatTheEngineKnows)
         int presets;
         int written;
     };
-    constexpr int untouched = 77;
+    constexpr int untouched = 0; // as the settings start
     Row const rows[] = {{0, 0}, {1, 1}, {2, 2}, {3, 3}, {4, untouched}, {5, untouched}, {6, 4}, {7, 5}, {8, untouched},
         {-1, untouched}, {lowest, untouched}, {highest, untouched}};
     for (Row const & row : rows) {
         LensFlare effect;
         effect.Presets = static_cast<LensFlare::Preset>(row.presets);
-        Proc::SettingsEffectLensFlare filled;
-        filled.preset = static_cast<Proc::SettingsEffectLensFlare::Preset>(untouched);
-        Factory::fill(filled, effect, {});
+        auto const record = Factory::videoEffectSettings(effect, {});
+        auto const & filled = dynamic_cast<Proc::SettingsEffectLensFlare const &>(*record.settings.at(0));
         EXPECT_EQ(static_cast<int>(filled.preset), row.written) << row.presets;
     }
 }
@@ -212,10 +204,8 @@ TEST_F(LightConversion, LightLeaksAlwaysWriteAPreset)
     auto const written = [](int presets) {
         LightLeaks effect;
         effect.Presets = static_cast<LightLeaks::Preset>(presets);
-        Proc::SettingsEffectLightLeaks filled;
-        filled.preset = static_cast<Proc::SettingsEffectLightLeaks::Preset>(77);
-        Factory::fill(filled, effect, {});
-        return static_cast<int>(filled.preset);
+        auto const record = Factory::videoEffectSettings(effect, {});
+        return static_cast<int>(dynamic_cast<Proc::SettingsEffectLightLeaks const &>(*record.settings.at(0)).preset);
     };
     for (int presets = 1; presets <= 15; ++presets)
         EXPECT_EQ(written(presets), presets);
@@ -274,14 +264,6 @@ TEST_F(LightConversion, UnknownVignettesAreAnIntensityAndNothingElse)
         effect.preset = static_cast<VignetteFilter::Preset>(preset);
         expectConversion(effect, settings("SettingsEffectVignetteFilter", R"(["SetIntensity", 1])",
                                      R"("firstMode": 0, "secondMode": 0, "thirdMode": 0)"));
-
-        // Not even zeros are written.
-        Proc::SettingsEffectVignetteFilter untouched;
-        untouched.firstMode = untouched.secondMode = untouched.thirdMode = 77;
-        Factory::fill(untouched, effect, {});
-        EXPECT_EQ(untouched.firstMode, 77);
-        EXPECT_EQ(untouched.secondMode, 77);
-        EXPECT_EQ(untouched.thirdMode, 77);
     }
 }
 

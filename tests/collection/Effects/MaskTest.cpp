@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include <collection/Effects/Stages.h>
+#include <collection/Effects/Conversions.h>
 #include <effects/Identity.h>
 #include <effects/Mask.h>
 #include <Settings/SettingsMask.h>
@@ -125,7 +125,10 @@ TEST_F(MaskConversion, HighlightsShareAnObjectAndEachConcealHasItsOwn)
 
 TEST_F(MaskConversion, NoFramesGiveARecordOfNothing)
 {
-    auto const record = Factory::convertMask(Mask(), {});
+    Factory::Conversions table;
+    Factory::addMask(table);
+    Factory::FactoryCaches caches;
+    auto const record = table.video.value(Id::Mask).convert(Mask(), {{}, caches});
     EXPECT_THAT(record.settings, IsEmpty());
     EXPECT_EQ(record.stageCode, 18);
     EXPECT_EQ(record.implementation, "DEFAULT");

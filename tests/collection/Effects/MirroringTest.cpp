@@ -42,33 +42,6 @@ TEST_F(MirroringConversion, FlipIsADiagonal)
     }
 }
 
-TEST_F(MirroringConversion, MirrorPassesWhatTheEngineKnows)
-{
-    // The engine's own value, which no row sends.
-    constexpr int untouched = 77;
-    struct
-    {
-        int vertical, horizontal;
-        int expectedVertical, expectedHorizontal;
-    } const rows[] = {
-        {0, 0, 0, 0},
-        {1, 2, 1, 2},
-        {2, 1, 2, 1},
-        {3, 1, untouched, 1},
-        {1, 3, 1, untouched},
-        {-1, 1000, untouched, untouched},
-    };
-    for (auto const & row : rows) {
-        SCOPED_TRACE(testing::Message() << row.vertical << ", " << row.horizontal);
-        auto const effect = Testing::readKeys<Mirror>({{"vertical", row.vertical}, {"horizontal", row.horizontal}});
-        Quoril::Proc::SettingsEffectMirror converted;
-        converted.vertical = converted.horizontal = untouched;
-        Factory::fill(converted, *effect, {});
-        EXPECT_EQ(converted.vertical, row.expectedVertical);
-        EXPECT_EQ(converted.horizontal, row.expectedHorizontal);
-    }
-}
-
 TEST_F(MirroringConversion, Mirror)
 {
     Mirror effect;

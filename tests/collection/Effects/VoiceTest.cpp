@@ -2,7 +2,7 @@
 #include <cmath>
 #include <limits>
 
-#include <collection/Effects/Stages.h>
+#include <collection/Effects/Conversions.h>
 #include <effects/PrivateIdentity.h>
 #include <effects/Voice.h>
 #include <Settings/SettingsAudio.h>

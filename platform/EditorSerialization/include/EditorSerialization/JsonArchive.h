@@ -88,6 +88,7 @@ public:
             saveWhole(nullptr, value);
         return *this;
     }
+    /// Saves a value under its key.
     template <class T> oarchive & operator<<(boost::serialization::nvp<T> const & value)
     {
         if (isSaving())

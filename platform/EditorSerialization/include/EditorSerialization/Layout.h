@@ -43,10 +43,10 @@ struct Layout;
 /// An operation that a container lacks is null.
 struct ContainerOperations
 {
-    std::size_t (*size)(void const * container);
+    std::size_t (*size)(void const * container); ///< 0 or 1 for an optional record
     /// Null for an empty slot. @param index  below the size
     ISerializable * (*at)(void const * container, std::size_t index);
-    void (*clear)(void * container);
+    void (*clear)(void * container); ///< leaves it empty
     /// Appends a default record and returns it.
     ISerializable * (*append)(void * container);
     /// Appends an object, which the container owns from here on; null appends an empty slot. Returns false, and drops
@@ -57,8 +57,8 @@ struct ContainerOperations
 /// One field of a class.
 struct FieldLayout
 {
-    char const * key; ///< in the JSON archive and on the interfaces
-    Form form;
+    char const * key;   ///< in the JSON archive and on the interfaces
+    Form form;          ///< how the value is stored
     std::uint8_t count; ///< of the numbers in `Form::Doubles`
     /// The address of the value in an object of the class; of a record, that of its `ISerializable`.
     void * (*address)(ISerializable & object);
@@ -73,9 +73,10 @@ struct Layout
     bool hasClassInformation;   ///< whether its JSON object has a meta object
     Layout const * base;        ///< null where the class has none in the archives
     FieldLayout const * fields; ///< own fields, in the order of the binary archives
-    std::size_t fieldCount;
+    std::size_t fieldCount;     ///< number of own fields
 };
 
+/// @cond
 namespace Detail {
 
 template <class Class, auto Member> void * addressOf(ISerializable & object)
@@ -214,6 +215,7 @@ template <class T> constexpr ContainerOperations const * operationsOf()
 }
 
 } // namespace Detail
+/// @endcond
 
 /// The row of a member of `Class`, which may be one that it inherits: `layoutOf<Crop, &Crop::transform>("transform")`.
 template <class Class, auto Member> constexpr FieldLayout layoutOf(char const * key)
@@ -223,6 +225,7 @@ template <class Class, auto Member> constexpr FieldLayout layoutOf(char const * 
         Detail::recordOf<Value>(), Detail::operationsOf<Value>()};
 }
 
+/// @cond
 namespace Detail {
 
 template <class Class, auto const & keys, auto... Members, std::size_t... Index>
@@ -235,6 +238,7 @@ template <class Class, auto const & keys, auto... Members>
 inline constexpr auto fields = makeFields<Class, keys, Members...>(std::make_index_sequence<sizeof...(Members)>());
 
 } // namespace Detail
+/// @endcond
 
 /// A layout of these members under these keys, an array with a key for each.
 template <class Class, auto const & keys, auto... Members>
