@@ -1,5 +1,5 @@
 /// @file
-/// What a family tells `Effect::Schema` of its classes.
+/// The classes of a family as `Effect::Schema` reads them.
 #pragma once
 
 #include <array>

@@ -22,7 +22,7 @@ struct ISFSettings;
 namespace Effect::Factory {
 
 /// Whatever cannot be had is logged in one line at severity WARNING each time that it is asked for, so that the log of
-/// a conversion tells what it went without, also where the file is not read again.
+/// each conversion names the files that it lacked, even where a file is not read again.
 class FactoryCaches
 {
 public:

@@ -55,7 +55,7 @@ void addShaders(Conversions & table)
             settings.SetVersion(effect.apiVersion);
             settings.SetIntensity(effect.hasIntensity() ? floatIntensity(effect) : -1.0F);
             settings.SetShader(shaderText(effect.shaderResource));
-            // One that cannot be had is told as null.
+            // A picture that cannot be loaded is passed as null.
             if (!effect.auxImageResource.isEmpty())
                 settings.SetAuxImage(auxImage(effect.auxImageResource));
         },

@@ -104,7 +104,7 @@ template <class Container> struct Operations
     }
     static ISerializable * at(void const * container, [[maybe_unused]] std::size_t index)
     {
-        // Whoever may change the object asks through a container that may be changed.
+        // A caller that changes the object has a container that may be changed.
         auto & object = const_cast<Container &>(cast(container));
         if constexpr (IsOptional<Container>::value)
             return &*object;

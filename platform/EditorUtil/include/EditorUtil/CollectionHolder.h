@@ -35,7 +35,7 @@ public:
     /// @param callback  not called any more once the holder has dropped its loads
     void loadItems(QString const & path, QString const & collectionName, ItemCallback callback);
 
-    /// Drops the loads made by this holder, and nobody else's, on whatever storage they were made. No callback runs any
+    /// Drops the loads made by this holder and no others, on whatever storage they were made. No callback runs any
     /// more when this returns, except for one that makes this very call. A derived class whose callbacks use its own
     /// members calls this first in its destructor.
     void dropLoads();
