@@ -13,12 +13,10 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <limits>
 #include <memory>
 #include <string>
-#include <typeinfo>
-
-#include <functional>
 #include <type_traits>
 #include <typeinfo>
 #include <utility>

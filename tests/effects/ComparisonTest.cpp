@@ -1,4 +1,4 @@
-// Where an effect meets itself: compared with itself, given a part of itself, and asked back what it was told.
+// Where an effect meets itself: compared with itself, given a part of itself, and read back.
 
 #include <cmath>
 #include <limits>
@@ -108,7 +108,7 @@ TEST(Comparison, OfConcealFramesHasTheTolerance)
     }
 }
 
-/// Frames told apart by their tracks, whose names are too long to live within a frame.
+/// Frames that differ in their tracks, whose names are too long to live within a frame.
 QString trackName(int number)
 {
     return QStringLiteral("the motion track of the frame number %1").arg(number);

@@ -21,7 +21,7 @@ namespace {
 using namespace Effect;
 using Serialize::ISerializable;
 
-// A class with a list. Elements are told apart by a number, which is 0 in one that was not read whole.
+// A class with a list. A number identifies each element, which is 0 in one that was not read whole.
 
 struct Highlights
 {

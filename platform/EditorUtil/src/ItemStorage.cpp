@@ -74,7 +74,7 @@ struct Batch
 };
 
 /// The item files of a load's folder, sorted. Throws when it cannot be listed, and gives up when the load is no longer
-/// wanted: a folder may be large, and whoever ends the storage waits for it.
+/// wanted: a folder may be large, and the destructor of the storage waits for it.
 // Not through std::filesystem, which builds the path of every entry and takes it apart again.
 std::vector<std::string> listFolder(Load const & load)
 {

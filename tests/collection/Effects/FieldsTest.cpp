@@ -1,5 +1,5 @@
 // The public data members of the settings after each conversion, where the engine's settings start with 77 and true
-// (OtherEngine.h): a member that is left alone is told from one that is set, and a 0 or a false from none.
+// (OtherEngine.h): a member that is left alone differs from one that is set, even to 0 or false.
 
 #include <memory>
 #include <set>

@@ -22,7 +22,7 @@ using EditorCollection::ICollection;
 using testing::IsEmpty;
 using testing::SizeIs;
 
-/// A host's own, which tells what it was asked.
+/// A factory of the host, which records its calls.
 class HostFactory final : public Factory::IFactory
 {
     Factory::EffectSettings createVideoEffectSettings(

@@ -20,7 +20,7 @@
 
 #include <sys/stat.h>
 
-// Conversions go on without a file that is missing or broken. Each tells of it in one line of the log, at severity
+// Conversions go on without a file that is missing or broken. Each logs one line for it, at severity
 // WARNING, and leaves the lines at severity ERROR to effects that do not convert.
 
 namespace {
@@ -89,7 +89,7 @@ TEST_F(LutLoading, WarnsOfATableThatCannotBeHad)
     };
     for (Row const & row : rows) {
         std::string const line = "Couldn't load LUT \"" + std::string(row.name) + "\": " + row.problem;
-        // Each record tells what it went without, whether the file was read again or not.
+        // Each record lists the missing files, whether the file was read again or not.
         EXPECT_THAT(warnings(Lut(row.name)), ElementsAre(line));
         EXPECT_THAT(warnings(Lut(row.name)), ElementsAre(line));
     }
@@ -257,7 +257,7 @@ TEST_F(StockImageLoading, WarnsOfAPictureThatCannotBeHad)
 
     ASSERT_TRUE(QDir().mkpath(mask("bokeh.png")));
     expectWarning(bokeh(2), mask("bokeh.png"), "is not a regular file");
-    // Nobody writes to it: opening it would wait forever.
+    // The pipe has no writer, so opening it would block forever.
     ASSERT_EQ(::mkfifo(QFile::encodeName(mask("butterfly.png")).constData(), 0600), 0);
     expectWarning(bokeh(3), mask("butterfly.png"), "is not a regular file");
 }

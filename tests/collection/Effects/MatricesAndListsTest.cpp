@@ -58,7 +58,7 @@ protected:
     }
 };
 
-/// One transform for each entry and number, all other entries told apart.
+/// One transform for each entry and number, all other entries distinct.
 template <class Check> void forEachEntry(Check check)
 {
     for (std::size_t entry = 0; entry < 9; ++entry) {

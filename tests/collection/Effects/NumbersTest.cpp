@@ -321,7 +321,7 @@ std::vector<Row> blur()
         {OF(MotionBlur, intensity), "SetScale", {0}, whole},
         {OF(Sharpen, intensity), "SetLevel", {0}, whole},
         {OF(BokehBlur, intensity), "SetIntensity", {0}, narrowed},
-        // The mask is told by its width, 1 for "bang.png" to 9 for "star.png".
+        // The width identifies the mask, 1 for "bang.png" to 9 for "star.png".
         {OF(BokehBlur, preset), "SetImage", {0, 0},
             {{least, 1}, {-1, 1}, {0, 1}, {1, 2}, {2, 3}, {3, 4}, {4, 5}, {5, 6}, {6, 7}, {7, 8}, {8, 9}, {9, 9},
                 {264, 9}, {most, 9}}},
