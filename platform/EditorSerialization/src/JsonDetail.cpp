@@ -8,6 +8,9 @@
 
 #include <nlohmann/json.hpp>
 
+#include "JsonForms.h"
+#include "Utf8.h"
+
 namespace Serialize::Json {
 
 using nlohmann::json;
@@ -16,12 +19,7 @@ namespace Detail {
 
 namespace {
 
-// In documents: never change.
-constexpr char const * infinity = "Infinity";
-constexpr char const * minusInfinity = "-Infinity";
-constexpr char const * notANumber = "NaN";
-constexpr char const * utf16Key = "$utf16";
-constexpr char const * bytesKey = "$bytes";
+using namespace Forms;
 
 [[noreturn]] void failType(json const & value, std::string const & expected)
 {
@@ -56,44 +54,6 @@ bool isAscii(QString const & text)
     for (QChar const unit : text)
         if (unit.unicode() > 0x7F)
             return false;
-    return true;
-}
-
-bool isUtf16(QString const & text)
-{
-    for (int index = 0; index < text.size(); ++index) {
-        if (!text[index].isSurrogate())
-            continue;
-        if (!text[index].isHighSurrogate() || ++index == text.size() || !text[index].isLowSurrogate())
-            return false;
-    }
-    return true;
-}
-
-/// Well-formed UTF-8: no overlong forms, no surrogates, nothing past U+10FFFF (table 3-7 of the Unicode standard).
-bool isUtf8(std::string const & text)
-{
-    auto const * bytes = reinterpret_cast<unsigned char const *>(text.data());
-    auto const * const end = bytes + text.size();
-    while (bytes != end) {
-        unsigned char const lead = *bytes++;
-        if (lead < 0x80)
-            continue;
-        int const more = lead >= 0xC2 && lead <= 0xDF   ? 1
-                         : lead >= 0xE0 && lead <= 0xEF ? 2
-                         : lead >= 0xF0 && lead <= 0xF4 ? 3
-                                                        : 0;
-        if (more == 0 || end - bytes < more)
-            return false;
-        unsigned char const least = lead == 0xE0 ? 0xA0 : lead == 0xF0 ? 0x90 : 0x80;
-        unsigned char const most = lead == 0xED ? 0x9F : lead == 0xF4 ? 0x8F : 0xBF;
-        if (*bytes < least || *bytes > most)
-            return false;
-        for (int index = 1; index < more; ++index)
-            if (bytes[index] < 0x80 || bytes[index] > 0xBF)
-                return false;
-        bytes += more;
-    }
     return true;
 }
 
@@ -190,7 +150,7 @@ void load(json const & value, QString & text)
     if (value.is_string()) {
         auto const & bytes = value.get_ref<std::string const &>();
         if (!isSame(text, bytes))
-            text = bytes.empty() ? QString(QLatin1String("")) : QString::fromStdString(bytes);
+            text = fromUtf8(bytes);
         return;
     }
     if (value.is_null()) {

@@ -109,7 +109,8 @@ TEST(JsonArchive, KeepsEveryTextWhole)
     QString const clef = QString::fromUtf8("a\xF0\x9D\x84\x9E");
     EXPECT_EQ(saved(clef), u8"a\U0001D11E");
     for (QString const & text :
-        {QString("plain"), clef, QString(QChar(0xD834)), QString("x") + QChar(0xDD1E) + "y", QString(QChar(0))})
+        {QString("plain"), clef, QString(QChar(0xD834)), QString("x") + QChar(0xDD1E) + "y", QString(QChar(0)),
+            QString(QChar(0xFEFF)) + "marked", QString(2, QChar(0xFEFF)), QString("x") + QChar(0xFEFF)})
         EXPECT_EQ(roundTrip(text), text);
     EXPECT_EQ(saved(QString("x") + QChar(0xD834)), (json{{"$utf16", {0x78, 0xD834}}}));
     EXPECT_TRUE(roundTrip(QString()).isNull());
