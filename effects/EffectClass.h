@@ -29,6 +29,7 @@ public:                                                                         
     std::string GetNameInArchive() const override;                                                                     \
     void Serialize(Serialize::ISerializer & serializer) const override;                                                \
     void Deserialize(Serialize::IDeserializer & deserializer) override;                                                \
+    Serialize::Layout const * GetLayout() const override;                                                              \
                                                                                                                        \
 private:                                                                                                               \
     friend Serialize::Access;                                                                                          \

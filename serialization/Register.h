@@ -3,9 +3,13 @@
 /// a host's own class directly: `EFFECT_KEY` first, then `EFFECT_REGISTER`.
 #pragma once
 
+#include <array>
+#include <cstddef>
+#include <memory>
 #include <new>
 #include <tuple>
 #include <type_traits>
+#include <utility>
 
 #include <boost/serialization/export.hpp>
 
@@ -44,25 +48,61 @@ template <class Archive, class Class, class Base> void walk(Archive & archive, C
         Class::describe().own);
 }
 
-template <class Class, std::size_t... Index> constexpr auto makeFields(std::index_sequence<Index...>)
+/// The archive name of a class that has class information; null for `void`.
+template <class Class> constexpr char const * archiveName()
 {
-    return std::array<::Serialize::FieldLayout, sizeof...(Index)>{
-        ::Serialize::layoutOf<Class, std::get<Index>(Class::describe().own).member>(
-            std::get<Index>(Class::describe().own).key)...};
+    if constexpr (std::is_void_v<Class>)
+        return nullptr;
+    else
+        return boost::serialization::ext::guid_impl<Class>::call();
 }
 
-template <class Class> inline constexpr std::size_t fieldCount = std::tuple_size_v<decltype(Class::describe().own)>;
-
-template <class Class>
-inline constexpr auto fieldLayouts = makeFields<Class>(std::make_index_sequence<fieldCount<Class>>());
-
-template <class Class, class Base> constexpr ::Serialize::Layout makeLayout(char const * name)
+/// Whether a new object of the class has its optional record.
+template <class Creator> bool newHasOptional()
 {
-    ::Serialize::Layout const * base = nullptr;
-    if constexpr (!std::is_void_v<Base>)
-        base = ::Serialize::Access::layout<Base>();
-    return {name, true, base, fieldLayouts<Class>.data(), fieldCount<Class>};
+    static bool const has = [] {
+        std::unique_ptr<::Serialize::ISerializable> const object(Creator().create());
+        for (auto const * layout = object ? object->GetLayout() : nullptr; layout; layout = layout->base)
+            for (std::size_t index = 0; index < layout->fieldCount; ++index) {
+                ::Serialize::FieldLayout const & field = layout->fields[index];
+                if (field.form == ::Serialize::Form::OptionalRecord &&
+                    field.container->size(field.address(*object)) != 0)
+                    return true;
+            }
+        return false;
+    }();
+    return has;
 }
+
+/// Describes a class to `Serialize::makeLayout`.
+template <class Described, class Base, class Creator> struct LayoutSource
+{
+    using Class = Described;
+
+    static constexpr bool hasClassInformation = true;
+    static constexpr bool (*newHasOptional)() = &Registration::newHasOptional<Creator>;
+    static constexpr char const * name() { return archiveName<Class>(); }
+    static constexpr char const * baseName() { return archiveName<Base>(); }
+    static constexpr ::Serialize::Layout const * base()
+    {
+        if constexpr (std::is_void_v<Base>)
+            return nullptr;
+        else
+            return ::Serialize::Access::layout<Base>();
+    }
+    static constexpr auto fields()
+    {
+        return fields(std::make_index_sequence<std::tuple_size_v<decltype(Class::describe().own)>>());
+    }
+
+private:
+    template <std::size_t... index> static constexpr auto fields(std::index_sequence<index...>)
+    {
+        return std::array<::Serialize::FieldLayout, sizeof...(index)>{
+            ::Serialize::layoutOf<Class, std::get<index>(Class::describe().own).member>(
+                std::get<index>(Class::describe().own).key)...};
+    }
+};
 
 } // namespace Effect::Registration
 
@@ -73,7 +113,7 @@ template <class Class, class Base> constexpr ::Serialize::Layout makeLayout(char
     {};                                                                                                                \
     template <> struct boost::serialization::ext::guid_impl<Effect::Class>                                             \
     {                                                                                                                  \
-        static char const * call() { return "Effect::" #Class; }                                                       \
+        static constexpr char const * call() { return "Effect::" #Class; }                                             \
     };
 
 #define EFFECT_INSTANTIATE(Class, Archive)                                                                             \
@@ -88,9 +128,14 @@ template <class Class, class Base> constexpr ::Serialize::Layout makeLayout(char
         Creator() { Effect::Registration::registerCasts<Class>(); }                                                    \
         ::Serialize::ISerializable * create() const override { return new (std::nothrow) Class; }                      \
     };                                                                                                                 \
-    ::Serialize::Registrator const Effect::Class::s_registrator("Effect::" #Class, new (std::nothrow) Creator);        \
     ::Serialize::Layout const Effect::Class::s_layout =                                                                \
-        Effect::Registration::makeLayout<Effect::Class, Base>("Effect::" #Class);                                      \
+        ::Serialize::makeLayout<Effect::Registration::LayoutSource<Class, Base, Creator>>();                           \
+    ::Serialize::Registrator const Effect::Class::s_registrator(                                                       \
+        "Effect::" #Class, new (std::nothrow) Creator, &s_layout);                                                     \
+    ::Serialize::Layout const * Effect::Class::GetLayout() const                                                       \
+    {                                                                                                                  \
+        return &s_layout;                                                                                              \
+    }                                                                                                                  \
     char const * Effect::Class::NameInArchive()                                                                        \
     {                                                                                                                  \
         return "Effect::" #Class;                                                                                      \

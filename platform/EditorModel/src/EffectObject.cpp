@@ -1,11 +1,7 @@
 #include <EditorModel/EffectObject.h>
 
 #include <cstddef>
-#include <mutex>
-#include <shared_mutex>
-#include <string>
 #include <type_traits>
-#include <unordered_map>
 
 #include <EditorSerialization/Layout.h>
 #include <EditorSerialization/Registry.h>
@@ -30,29 +26,11 @@ namespace {
 /// Whether a new effect of the same class has a range.
 bool isConstructedWithRange(Object const & effect)
 {
-    struct Classes
-    {
-        std::shared_mutex mutex;
-        std::unordered_map<std::string, bool> byName;
-    };
-    // Never destroyed: effects may still be saved by the destructors of statics.
-    static auto & classes = *new Classes;
-
-    std::string const name = effect.GetNameInArchive();
-    {
-        std::shared_lock const lock(classes.mutex);
-        auto const known = classes.byName.find(name);
-        if (known != classes.byName.end())
-            return known->second;
-    }
-    auto const created = ::Serialize::Registry::create(name);
+    if (::Serialize::Layout const * const layout = effect.GetLayout())
+        return layout->newHasOptional && layout->newHasOptional();
+    auto const created = ::Serialize::Registry::create(effect.GetNameInArchive());
     auto const * const newEffect = dynamic_cast<Object const *>(created.get());
-    // Not kept: the class may be registered later.
-    if (!newEffect)
-        return false;
-    bool const hasRange = newEffect->range.has_value();
-    std::unique_lock const lock(classes.mutex);
-    return classes.byName.emplace(name, hasRange).first->second;
+    return newEffect && newEffect->range;
 }
 
 } // namespace
@@ -116,6 +94,11 @@ template <class Archive> void Object::serialize(Archive & archive)
 
 EDITORMODEL_ARCHIVED(Object)
 
+::Serialize::Layout const * Object::GetLayout() const
+{
+    return nullptr;
+}
+
 namespace {
 
 constexpr char const * objectKeys[] = {"tag", "id", "groupId", "intensity", "resource", "resourcePath", "range"};
@@ -123,7 +106,7 @@ constexpr char const * objectKeys[] = {"tag", "id", "groupId", "intensity", "res
 } // namespace
 
 Serialize::Layout const Object::s_layout =
-    Serialize::makeLayout<Object, objectKeys, &Object::tag, &Object::id, &Object::groupId, &Object::intensity,
-        &Object::resource, &Object::resourcePath, &Object::range>("Effect::Object", true);
+    Serialize::makeLayout<Serialize::LayoutSource<Object, true, objectKeys, &Object::tag, &Object::id, &Object::groupId,
+        &Object::intensity, &Object::resource, &Object::resourcePath, &Object::range>>();
 
 } // namespace Effect

@@ -107,7 +107,7 @@ constexpr char const * idKeys[] = {"name", "type"};
 } // namespace
 
 Serialize::Layout const ID::s_layout =
-    Serialize::makeLayout<ID, idKeys, &ID::m_name, &ID::m_type>("Resource::ID", false);
+    Serialize::makeLayout<Serialize::LayoutSource<ID, false, idKeys, &ID::m_name, &ID::m_type>>();
 
 Timing::Timing() = default;
 

@@ -68,8 +68,8 @@ constexpr char const * rangeKeys[] = {"start", "length"};
 } // namespace
 
 Serialize::Layout const Transform::s_layout =
-    Serialize::makeLayout<Transform, transformKeys, &Transform::m_entries>("Types::Transform", false);
+    Serialize::makeLayout<Serialize::LayoutSource<Transform, false, transformKeys, &Transform::m_entries>>();
 Serialize::Layout const Range::s_layout =
-    Serialize::makeLayout<Range, rangeKeys, &Range::m_start, &Range::m_length>("Types::Range", false);
+    Serialize::makeLayout<Serialize::LayoutSource<Range, false, rangeKeys, &Range::m_start, &Range::m_length>>();
 
 } // namespace Types

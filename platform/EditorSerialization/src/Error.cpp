@@ -24,6 +24,11 @@ std::string presentable(std::string const & text)
 
 ISerializable::~ISerializable() = default;
 
+Layout const * ISerializable::GetLayout() const
+{
+    return nullptr;
+}
+
 ArchiveError::ArchiveError(exception_code errorCode, std::string const & text)
     : archive_exception(errorCode)
     , m_text(presentable(text))

@@ -1,8 +1,10 @@
 #include <EditorSerialization/Registry.h>
 
-#include <map>
+#include <algorithm>
+#include <array>
+#include <atomic>
+#include <functional>
 #include <mutex>
-#include <shared_mutex>
 
 #include <glog/logging.h>
 
@@ -10,10 +12,21 @@ namespace Serialize {
 
 namespace {
 
+/// A name that has been registered at some time. It is never destroyed, so that a look-up needs no lock; a class that
+/// is registered again finds its place.
+struct Place
+{
+    std::string const name;
+    Place * const next; // of the same bucket
+    std::atomic<BaseCreator const *> creator{nullptr};
+    std::atomic<Layout const *> layout{nullptr};
+    std::atomic<bool> isTaken{false};
+};
+
 struct Classes
 {
-    std::shared_mutex mutex;
-    std::map<std::string_view, BaseCreator const *> creators;
+    std::mutex mutex; // of those that register
+    std::array<std::atomic<Place *>, 512> buckets{};
 };
 
 // Never destroyed: registrators of libraries that are unloaded late still come here.
@@ -23,47 +36,81 @@ Classes & classes()
     return classes;
 }
 
+std::atomic<Place *> & bucketOf(std::string_view name)
+{
+    auto & buckets = classes().buckets;
+    return buckets[std::hash<std::string_view>()(name) % buckets.size()];
+}
+
+Place * findIn(std::atomic<Place *> const & bucket, std::string_view name)
+{
+    Place * place = bucket.load(std::memory_order_acquire);
+    while (place && place->name != name)
+        place = place->next;
+    return place;
+}
+
 } // namespace
 
 BaseCreator::~BaseCreator() = default;
 
-Registrator::Registrator(char const * name, BaseCreator const * creator)
+Registrator::Registrator(char const * name, BaseCreator const * creator, Layout const * layout)
     : m_name(name)
     , m_creator(creator)
 {
-    std::unique_lock const lock(classes().mutex);
-    m_isFirst = classes().creators.emplace(name, creator).second;
+    std::lock_guard const lock(classes().mutex);
+    auto & bucket = bucketOf(name);
+    Place * place = findIn(bucket, name);
+    if (!place) {
+        place = new Place{name, bucket.load(std::memory_order_relaxed)};
+        bucket.store(place, std::memory_order_release);
+    }
+    m_isFirst = !place->isTaken;
     if (!m_isFirst) {
         LOG(ERROR) << "The archive name " << name << " is registered twice. The first registration stays";
         m_creator.reset();
+        return;
     }
+    place->layout = layout;
+    place->creator = creator;
+    place->isTaken = true;
 }
 
 Registrator::~Registrator()
 {
     if (!m_isFirst)
         return;
-    std::unique_lock const lock(classes().mutex);
-    classes().creators.erase(m_name);
+    std::lock_guard const lock(classes().mutex);
+    Place & place = *findIn(bucketOf(m_name), m_name);
+    place.isTaken = false;
+    place.creator = nullptr;
+    place.layout = nullptr;
 }
 
 namespace Registry {
 
+Entry find(std::string_view archiveName)
+{
+    Place const * const place = findIn(bucketOf(archiveName), archiveName);
+    if (!place)
+        return {nullptr, nullptr};
+    return {place->creator.load(std::memory_order_acquire), place->layout.load(std::memory_order_acquire)};
+}
+
 std::unique_ptr<ISerializable> create(std::string_view archiveName)
 {
-    std::shared_lock const lock(classes().mutex);
-    auto const found = classes().creators.find(archiveName);
-    if (found == classes().creators.end() || !found->second)
-        return nullptr;
-    return std::unique_ptr<ISerializable>(found->second->create());
+    BaseCreator const * const creator = find(archiveName).creator;
+    return std::unique_ptr<ISerializable>(creator ? creator->create() : nullptr);
 }
 
 std::vector<std::string> names()
 {
-    std::shared_lock const lock(classes().mutex);
     std::vector<std::string> names;
-    for (auto const & [name, creator] : classes().creators)
-        names.emplace_back(name);
+    for (auto const & bucket : classes().buckets)
+        for (Place const * place = bucket.load(std::memory_order_acquire); place; place = place->next)
+            if (place->isTaken)
+                names.push_back(place->name);
+    std::sort(names.begin(), names.end());
     return names;
 }
 

@@ -1,5 +1,7 @@
 #include <EditorSerialization/Registry.h>
 
+#include <EditorSerialization/Layout.h>
+
 #include <algorithm>
 #include <optional>
 
@@ -48,6 +50,25 @@ TEST(Registry, AClassWithoutACreatorCannotBeMade)
 {
     Serialize::Registrator const registrator("Test::Nothing", nullptr);
     EXPECT_EQ(Serialize::Registry::create("Test::Nothing"), nullptr);
+}
+
+TEST(Registry, KnowsTheLayoutWhileTheClassIsRegistered)
+{
+    static Serialize::Layout const layout{};
+    static char const name[] = "Test::WithLayout";
+    EXPECT_EQ(Serialize::Registry::find(name).layout, nullptr);
+    {
+        auto const * const creator = new LeafCreator;
+        Serialize::Registrator const registrator(name, creator, &layout);
+        Serialize::Registrator const dropped(name, new LeafCreator);
+        EXPECT_EQ(Serialize::Registry::find(name).creator, creator);
+        EXPECT_EQ(Serialize::Registry::find(name).layout, &layout);
+    }
+    EXPECT_EQ(Serialize::Registry::find(name).creator, nullptr);
+    EXPECT_EQ(Serialize::Registry::find(name).layout, nullptr);
+    Serialize::Registrator const other(name, new LeafCreator);
+    EXPECT_EQ(Serialize::Registry::find(name).layout, nullptr);
+    EXPECT_EQ(Serialize::Registry::find("Host::Leaf").layout, nullptr);
 }
 
 TEST(Registry, ASecondRegistrationIsReportedAndDropped)

@@ -66,10 +66,12 @@ public:
     /// The tag of a new effect of the class that came from no preset; empty for a class that names none.
     virtual QString defaultTag() const;
 
-    static char const * NameInArchive() { return "Effect::Object"; }
+    static constexpr char const * NameInArchive() { return "Effect::Object"; }
     std::string GetNameInArchive() const override;
     void Serialize(Serialize::ISerializer & serializer) const override;
     void Deserialize(Serialize::IDeserializer & deserializer) override;
+    /// Null. A class that has a layout of its own overrides it.
+    Serialize::Layout const * GetLayout() const override;
 
 protected:
     QString generateItemFindingId() const override;
@@ -88,6 +90,6 @@ template <> struct boost::serialization::guid_defined<Effect::Object> : boost::m
 {};
 template <> struct boost::serialization::ext::guid_impl<Effect::Object>
 {
-    static char const * call() { return Effect::Object::NameInArchive(); }
+    static constexpr char const * call() { return Effect::Object::NameInArchive(); }
 };
 /// @endcond

@@ -53,7 +53,7 @@ public:
     /// By name, then by type.
     bool operator<(ID const & other) const;
 
-    static char const * NameInArchive() { return "Resource::ID"; }
+    static constexpr char const * NameInArchive() { return "Resource::ID"; }
     std::string GetNameInArchive() const override;
     void Serialize(Serialize::ISerializer & serializer) const override;
     void Deserialize(Serialize::IDeserializer & deserializer) override;
@@ -82,7 +82,7 @@ struct EDITORMODEL_EXPORT Timing : public Serialize::ISerializable
     Timing & operator=(Timing &&) = default;
     ~Timing() override;
 
-    static char const * NameInArchive() { return "Resource::Timing"; }
+    static constexpr char const * NameInArchive() { return "Resource::Timing"; }
     std::string GetNameInArchive() const override;
     void Serialize(Serialize::ISerializer & serializer) const override;
     void Deserialize(Serialize::IDeserializer & deserializer) override;

@@ -45,7 +45,7 @@ public:
     bool operator==(Transform const & other) const;
     bool operator!=(Transform const & other) const { return !(*this == other); }
 
-    static char const * NameInArchive() { return "Types::Transform"; }
+    static constexpr char const * NameInArchive() { return "Types::Transform"; }
     std::string GetNameInArchive() const override;
     void Serialize(Serialize::ISerializer & serializer) const override;
     void Deserialize(Serialize::IDeserializer & deserializer) override;
@@ -78,7 +78,7 @@ public:
     bool operator==(Range const & other) const { return m_start == other.m_start && m_length == other.m_length; }
     bool operator!=(Range const & other) const { return !(*this == other); }
 
-    static char const * NameInArchive() { return "Types::Range"; }
+    static constexpr char const * NameInArchive() { return "Types::Range"; }
     std::string GetNameInArchive() const override;
     void Serialize(Serialize::ISerializer & serializer) const override;
     void Deserialize(Serialize::IDeserializer & deserializer) override;

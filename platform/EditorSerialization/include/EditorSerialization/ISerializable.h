@@ -28,6 +28,8 @@ public:
     /// Reads the content over what is there. Throws where something else stands than was written; what was read until
     /// then stays.
     virtual void Deserialize(IDeserializer & deserializer) = 0;
+    /// The table of the class's fields, see <EditorSerialization/Layout.h>; null for a class that has none.
+    virtual Layout const * GetLayout() const;
 
 protected:
     ISerializable() = default;

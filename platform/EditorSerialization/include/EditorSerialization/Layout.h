@@ -7,10 +7,13 @@
 #include <cstddef>
 #include <cstdint>
 #include <deque>
+#include <initializer_list>
 #include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <type_traits>
+#include <typeinfo>
 #include <utility>
 
 #include <EditorSerialization/ISerializable.h>
@@ -19,6 +22,9 @@
 #include <QString>
 
 namespace Serialize {
+
+/// Of a class's JSON texts without texts, records and lists, in bytes.
+inline constexpr std::size_t maxTextSize = 8192;
 
 /// How the value of a field is stored in the object.
 enum class Form : std::uint8_t
@@ -66,14 +72,34 @@ struct FieldLayout
     ContainerOperations const * container = nullptr; ///< of optional records and lists
 };
 
+/// One key of a class's object in a JSON text.
+struct KeyLayout
+{
+    char const * literal;      ///< the key as it is written after another value: `,"key":`
+    std::uint8_t length;       ///< of the literal
+    FieldLayout const * field; ///< that the key holds; null for the base
+
+    /// Without the punctuation.
+    constexpr std::string_view key() const { return {literal + 2, std::size_t(length) - 4}; }
+};
+
 /// The fields of a class.
 struct Layout
 {
-    char const * name;          ///< archive name
-    bool hasClassInformation;   ///< whether its JSON object has a meta object
-    Layout const * base;        ///< null where the class has none in the archives
-    FieldLayout const * fields; ///< own fields, in the order of the binary archives
-    std::size_t fieldCount;     ///< number of own fields
+    char const * name;           ///< archive name
+    std::type_info const * type; ///< of the class
+    bool hasClassInformation;    ///< whether its JSON object has a meta object
+    Layout const * base;         ///< null where the class has none in the archives
+    FieldLayout const * fields;  ///< own fields, in the order of the binary archives
+    std::size_t fieldCount;      ///< number of own fields
+    KeyLayout const * keys;      ///< of the own fields and the base, in the order of a JSON text
+    std::size_t keyCount;        ///< number of keys
+    char const * head;           ///< with which the JSON text of an object begins
+    std::uint16_t headLength;    ///< of the head
+    std::uint16_t textSize;      ///< at most: of an object's JSON text without texts, records and lists
+    /// Whether a new object has its optional record, of which a class has one at most, inherited ones included. Such a
+    /// class writes an absent record as null, or it would be back after the next load. Null for a mere base or record.
+    bool (*newHasOptional)();
 };
 
 /// @cond
@@ -228,25 +254,135 @@ template <class Class, auto Member> constexpr FieldLayout layoutOf(char const * 
 /// @cond
 namespace Detail {
 
-template <class Class, auto const & keys, auto... Members, std::size_t... Index>
-constexpr auto makeFields(std::index_sequence<Index...>)
+template <std::size_t length> struct Literal
 {
-    return std::array<FieldLayout, sizeof...(Members)>{layoutOf<Class, Members>(keys[Index])...};
+    char text[length + 1]{};
+
+    constexpr Literal(std::initializer_list<std::string_view> parts)
+    {
+        std::size_t end = 0;
+        for (std::string_view const part : parts)
+            for (char const unit : part)
+                text[end++] = unit;
+    }
+};
+
+constexpr bool needsNoEscape(std::string_view text)
+{
+    for (char const unit : text)
+        if (unit < ' ' || unit > '~' || unit == '"' || unit == '\\')
+            return false;
+    return true;
 }
 
-template <class Class, auto const & keys, auto... Members>
-inline constexpr auto fields = makeFields<Class, keys, Members...>(std::make_index_sequence<sizeof...(Members)>());
+/// The tables of one class. `Source` describes it:
+///
+///   - `Class`, the class itself
+///   - `name()`, its archive name, and `hasClassInformation`
+///   - `baseName()` and `base()`, of its base in the archives; null without one
+///   - `fields()`, an array of `FieldLayout`
+///   - `newHasOptional`, a function or null
+template <class Source> struct Tables
+{
+    static constexpr auto fields = Source::fields();
+    static constexpr std::size_t baseCount = Source::base() ? 1 : 0;
+    static constexpr std::size_t keyCount = baseCount + fields.size();
+
+    static constexpr std::string_view key(std::size_t index)
+    {
+        return index < baseCount ? Source::baseName() : fields[index - baseCount].key;
+    }
+
+    static constexpr std::array<std::size_t, keyCount> sort()
+    {
+        std::array<std::size_t, keyCount> order{};
+        for (std::size_t index = 0; index < keyCount; ++index) {
+            std::size_t place = index;
+            for (; place > 0 && key(index) < key(order[place - 1]); --place)
+                order[place] = order[place - 1];
+            order[place] = index;
+        }
+        return order;
+    }
+    static constexpr auto order = sort();
+
+    static constexpr bool areKeysPlain()
+    {
+        for (std::size_t index = 0; index < keyCount; ++index)
+            // The meta object comes first, and two keys alike would be one.
+            if (!needsNoEscape(key(index)) || !(key(index) > "$meta") || key(index).size() > 250 ||
+                (index > 0 && key(order[index]) == key(order[index - 1])))
+                return false;
+        return true;
+    }
+    template <std::size_t index> static constexpr Literal<key(index).size() + 4> literal{{",\"", key(index), "\":"}};
+
+    template <std::size_t index> static constexpr KeyLayout makeKey()
+    {
+        return {literal<index>.text, sizeof(literal<index>.text) - 1,
+            index < baseCount ? nullptr : &fields[index - baseCount]};
+    }
+    template <std::size_t... index>
+    static constexpr std::array<KeyLayout, keyCount> makeKeys(std::index_sequence<index...>)
+    {
+        return {makeKey<order[index]>()...};
+    }
+    static constexpr auto keys = makeKeys(std::make_index_sequence<keyCount>());
+
+    static constexpr std::string_view headStart = Source::hasClassInformation ? "{\"$meta\":{\"class\":\"" : "{";
+    static constexpr std::string_view headName = Source::hasClassInformation ? Source::name() : "";
+    static constexpr std::string_view headEnd = Source::hasClassInformation ? "\"}" : "";
+    static constexpr std::size_t headLength = headStart.size() + headName.size() + headEnd.size();
+    static constexpr Literal<headLength> head{{headStart, headName, headEnd}};
+
+    static constexpr std::size_t textSize()
+    {
+        constexpr std::size_t number = 32; // longer than any
+        std::size_t size = headLength + 2;
+        for (std::size_t index = 0; index < keyCount; ++index)
+            size += key(index).size() + 4 + number;
+        for (FieldLayout const & field : fields)
+            size += field.count * number;
+        return size;
+    }
+
+    static constexpr Layout make()
+    {
+        static_assert(keyCount <= 64, "the JSON reader keeps a bit for each key");
+        static_assert(areKeysPlain() && needsNoEscape(Source::name()) && textSize() <= maxTextSize);
+        return {Source::name(), &typeid(typename Source::Class), Source::hasClassInformation, Source::base(),
+            fields.data(), fields.size(), keys.data(), keys.size(), head.text, headLength,
+            static_cast<std::uint16_t>(textSize()), Source::newHasOptional};
+    }
+};
 
 } // namespace Detail
 /// @endcond
 
-/// A layout of these members under these keys, an array with a key for each.
-template <class Class, auto const & keys, auto... Members>
-constexpr Layout makeLayout(char const * name, bool hasClassInformation)
+/// The layout of a class that is described as `Detail::Tables` says. Constant.
+template <class Source> constexpr Layout makeLayout()
 {
-    static_assert(std::size(keys) == sizeof...(Members));
-    auto const & fields = Detail::fields<Class, keys, Members...>;
-    return {name, hasClassInformation, nullptr, fields.data(), fields.size()};
+    return Detail::Tables<Source>::make();
 }
+
+/// Describes a class without a base by these members under these keys, an array with a key for each.
+template <class Described, bool information, auto const & keys, auto... Members> struct LayoutSource
+{
+    using Class = Described;
+    static_assert(std::size(keys) == sizeof...(Members));
+
+    static constexpr bool hasClassInformation = information;
+    static constexpr bool (*newHasOptional)() = nullptr;
+    static constexpr char const * name() { return Class::NameInArchive(); }
+    static constexpr char const * baseName() { return nullptr; }
+    static constexpr Layout const * base() { return nullptr; }
+    static constexpr auto fields() { return fields(std::make_index_sequence<sizeof...(Members)>()); }
+
+private:
+    template <std::size_t... index> static constexpr auto fields(std::index_sequence<index...>)
+    {
+        return std::array<FieldLayout, sizeof...(Members)>{layoutOf<Class, Members>(keys[index])...};
+    }
+};
 
 } // namespace Serialize

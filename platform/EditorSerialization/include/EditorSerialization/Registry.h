@@ -27,9 +27,10 @@ class EDITORSERIALIZATION_EXPORT Registrator
 public:
     /// @param name     kept as a pointer: a literal
     /// @param creator  owned from here on; with null the class cannot be made by name
+    /// @param layout   of the class; null for one that has none
     /// A name that is already registered keeps its first creator for as long as the first registrator lives; the second
     /// creator is reported in the log and dropped.
-    Registrator(char const * name, BaseCreator const * creator);
+    Registrator(char const * name, BaseCreator const * creator, Layout const * layout = nullptr);
     ~Registrator();
     Registrator(Registrator const &) = delete;
     Registrator & operator=(Registrator const &) = delete;
@@ -40,8 +41,18 @@ private:
     bool m_isFirst; // owns the name
 };
 
-/// The classes that can be made by name. Safe to ask from any thread.
+/// The classes that can be made by name. Any thread may ask; asking takes no lock.
 namespace Registry {
+
+/// A registered class.
+struct Entry
+{
+    BaseCreator const * creator; ///< null where the class cannot be made by name
+    Layout const * layout;       ///< null for a class that has none
+};
+
+/// Both are null for an unknown name.
+EDITORSERIALIZATION_EXPORT Entry find(std::string_view archiveName);
 
 /// A new default-constructed object of the class with that archive name; null for an unknown name.
 EDITORSERIALIZATION_EXPORT std::unique_ptr<ISerializable> create(std::string_view archiveName);
