@@ -4,6 +4,8 @@
 
 #include <EditorSerialization/BinaryArchive.h>
 #include <EditorSerialization/JsonArchive.h>
+#include <EditorSerialization/JsonText.h>
+#include <EditorSerialization/Layout.h>
 
 #include <nlohmann/json.hpp>
 
@@ -43,6 +45,15 @@ private:
     }
 };
 
+/// `dynamic_cast` for an object that has been read by its layout: every effect's ends in the base's.
+Object * asEffect(Serialize::ISerializable * object)
+{
+    Serialize::Layout const * layout = object ? object->GetLayout() : nullptr;
+    while (layout && layout->base)
+        layout = layout->base;
+    return layout == Serialize::Access::layout<Object>() ? static_cast<Object *>(object) : nullptr;
+}
+
 std::unique_ptr<Object> notNull(std::unique_ptr<Object> effect)
 {
     if (!effect)
@@ -54,6 +65,8 @@ std::unique_ptr<Object> notNull(std::unique_ptr<Object> effect)
 
 std::string toJson(Object const & effect)
 {
+    if (std::string text = Serialize::Json::writeObject(effect); !text.empty())
+        return text;
     nlohmann::json document;
     Serialize::Json::oarchive archive(document);
     Object const * const pointer = &effect;
@@ -63,6 +76,11 @@ std::string toJson(Object const & effect)
 
 std::unique_ptr<Object> fromJson(std::string_view text)
 {
+    std::unique_ptr<Serialize::ISerializable> object = Serialize::Json::readObject(text);
+    if (auto * const effect = asEffect(object.get())) {
+        object.release();
+        return std::unique_ptr<Object>(effect);
+    }
     nlohmann::json const document = Serialize::Json::parse(text);
     Serialize::Json::iarchive archive(document);
     std::unique_ptr<Object> effect;
