@@ -1,6 +1,8 @@
 #include <EditorUtil/ItemFile.h>
 
 #include <cerrno>
+#include <optional>
+#include <set>
 #include <stdexcept>
 #include <system_error>
 #include <utility>
@@ -10,6 +12,8 @@
 #include <unistd.h>
 
 #include <EditorSerialization/JsonArchive.h>
+#include <EditorSerialization/JsonText.h>
+#include <EditorSerialization/Layout.h>
 #include <EditorUtil/Item.h>
 #include <FileSystem/FileSystem.h>
 
@@ -108,6 +112,69 @@ template <class Change> void forEachResourcePath(json & value, Change const & ch
             forEachResourcePath(inner, change);
 }
 
+/// The absolute path of an effect's resource, which may be given relative to the item's folder.
+QString resolved(QString const & path, std::string const & folder)
+{
+    if (path.isEmpty() || !QDir::isRelativePath(path))
+        return path;
+    return QDir::cleanPath(QString::fromStdString(folder) + QLatin1Char('/') + path);
+}
+
+/// The same for each effect in an object, itself included.
+void resolvePaths(Serialize::ISerializable & object, std::string const & folder)
+{
+    if (auto * const effect = dynamic_cast<Effect::Object *>(&object))
+        effect->resourcePath = resolved(effect->resourcePath, folder);
+    for (Serialize::Layout const * layout = object.GetLayout(); layout; layout = layout->base)
+        for (std::size_t number = 0; number < layout->fieldCount; ++number) {
+            Serialize::FieldLayout const & field = layout->fields[number];
+            if (field.form != Serialize::Form::Objects)
+                continue;
+            void const * const container = field.address(object);
+            for (std::size_t index = 0; index < field.container->size(container); ++index)
+                if (Serialize::ISerializable * const held = field.container->at(container, index))
+                    resolvePaths(*held, folder);
+        }
+}
+
+struct ItemContent
+{
+    std::unique_ptr<Effect::Object> effect;
+    std::set<QString> categories;
+};
+
+/// Without a tree. Nothing for a text that has to be read with one, or that is wrong.
+std::optional<ItemContent> readContent(std::string_view text, std::string const & folder)
+{
+    Serialize::Json::TextReader reader(text);
+    std::unique_ptr<Serialize::ISerializable> object;
+    std::optional<std::set<QString>> categories;
+    std::string_view key;
+    for (reader.enterObject(); reader.nextKey(key);) {
+        if (key == effectKey) {
+            if (object || !reader.read(object))
+                return std::nullopt;
+        } else if (key == categoriesKey) {
+            if (categories)
+                return std::nullopt;
+            categories.emplace();
+            for (reader.enterArray(); reader.nextElement();)
+                if (QString category; reader.read(category))
+                    categories->insert(category);
+        } else {
+            reader.skip();
+        }
+    }
+    if (!reader.isWhole() || !object)
+        return std::nullopt;
+    resolvePaths(*object, folder);
+    std::unique_ptr<Effect::Object> effect(dynamic_cast<Effect::Object *>(object.get()));
+    if (!effect)
+        return std::nullopt;
+    object.release();
+    return ItemContent{std::move(effect), std::move(categories).value_or(std::set<QString>())};
+}
+
 std::set<QString> categoriesOf(json const & document)
 {
     std::set<QString> categories;
@@ -119,7 +186,9 @@ std::set<QString> categoriesOf(json const & document)
     for (json const & name : *found) {
         if (!name.is_string())
             throw std::runtime_error("\"categories\" holds something that is no text");
-        categories.insert(QString::fromStdString(name.get_ref<std::string const &>()));
+        QString category;
+        Serialize::Json::Detail::load(name, category);
+        categories.insert(category);
     }
     return categories;
 }
@@ -137,16 +206,16 @@ serialize_ptr<IItem> parseItem(std::string_view text, std::string const & folder
 {
     if (text.empty())
         throw std::runtime_error("is empty");
+    if (std::optional<ItemContent> content = readContent(text, folder))
+        return makeItem(std::move(content->effect), std::move(content->categories), std::move(file));
     json document = Serialize::Json::parse(text);
     if (!document.is_object())
         throw std::runtime_error("is no JSON object");
     auto const archived = document.find(effectKey);
     if (archived == document.end())
         throw std::runtime_error("has no key \"effect\"");
-    forEachResourcePath(*archived, [&](std::string & path) {
-        if (!path.empty() && QDir::isRelativePath(QString::fromStdString(path)))
-            path = QDir::cleanPath(QString::fromStdString(folder + '/' + path)).toStdString();
-    });
+    forEachResourcePath(
+        *archived, [&](std::string & path) { path = resolved(QString::fromStdString(path), folder).toStdString(); });
 
     std::unique_ptr<Effect::Object> effect;
     try {
