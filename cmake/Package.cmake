@@ -1,7 +1,7 @@
 # Installation, the packages that find_package and pkg-config find, and Debian packages.
 #
-# Three components: `runtime` (the library, the editor's libraries in a folder of their own, the stock content),
-# `development` (headers, link names, package descriptions) and `tool` (effectctl). Nothing that is installed knows
+# Three components: `runtime` (the library, the editor's libraries in a folder of their own, the stock content, the
+# translations), `development` (headers, link names, package descriptions) and `tool` (effectctl). Nothing that is installed knows
 # where: a prefix can be moved.
 include(CMakePackageConfigHelpers)
 
@@ -16,7 +16,7 @@ function(editor_cmake_package name)
   set(folder "${CMAKE_INSTALL_LIBDIR}/cmake/${name}")
   install(EXPORT ${name}Targets NAMESPACE Editor:: DESTINATION "${folder}" COMPONENT development)
   configure_package_config_file("cmake/${name}Config.cmake.in" "${PROJECT_BINARY_DIR}/package/${name}Config.cmake"
-    INSTALL_DESTINATION "${folder}" NO_SET_AND_CHECK_MACRO)
+    INSTALL_DESTINATION "${folder}" PATH_VARS EDITOR_TRANSLATIONS_DIR NO_SET_AND_CHECK_MACRO)
   write_basic_package_version_file("${PROJECT_BINARY_DIR}/package/${name}ConfigVersion.cmake"
     COMPATIBILITY SameMajorVersion)
   install(FILES
@@ -25,6 +25,7 @@ function(editor_cmake_package name)
     DESTINATION "${folder}" COMPONENT development)
 endfunction()
 
+set(EDITOR_TRANSLATIONS_DIR "${CMAKE_INSTALL_DATADIR}/EditorEffects/translations")
 editor_installed_path(platform_from_lib "${CMAKE_INSTALL_LIBDIR}" "${EDITOR_PLATFORM_LIBDIR}")
 editor_installed_path(lib_from_bin "${CMAKE_INSTALL_BINDIR}" "${CMAKE_INSTALL_LIBDIR}")
 editor_installed_path(platform_from_bin "${CMAKE_INSTALL_BINDIR}" "${EDITOR_PLATFORM_LIBDIR}")
@@ -69,6 +70,9 @@ install(DIRECTORY stock/ DESTINATION "${CMAKE_INSTALL_DATADIR}/EditorEffects/sto
   PATTERN "*.md" EXCLUDE
   PATTERN "__pycache__" EXCLUDE
   PATTERN "CMakeLists.txt" EXCLUDE)
+if(TARGET translations)
+  install(FILES ${EDITOR_TRANSLATIONS} DESTINATION "${EDITOR_TRANSLATIONS_DIR}" COMPONENT runtime)
+endif()
 
 install(FILES LICENSE NOTICE DESTINATION "${CMAKE_INSTALL_DOCDIR}" COMPONENT runtime)
 

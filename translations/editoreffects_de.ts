@@ -600,7 +600,7 @@
         <translation>Höhere Werte fügen mehr Rauschen hinzu; die Vorlagen verwenden 0,05 bis 0,15</translation>
     </message>
     <message>
-        <source>Higher adds more traces of the projector's rollers; the stock goes up to 20</source>
+        <source>Higher adds more traces of the projector&apos;s rollers; the stock goes up to 20</source>
         <translation>Höhere Werte ergeben mehr Spuren der Projektorrollen; die Vorlagen gehen bis 20</translation>
     </message>
     <message>
@@ -1033,7 +1033,7 @@
     </message>
     <message>
         <source>Image</source>
-        <translation>Bild</translation>
+        <translation type="vanished">Bild</translation>
     </message>
     <message>
         <source>Improves the sound of a voice with several effects at once.</source>
@@ -1257,7 +1257,7 @@
     </message>
     <message>
         <source>Matrix</source>
-        <translation>Matrix</translation>
+        <translation type="vanished">Matrix</translation>
     </message>
     <message>
         <source>Method</source>
@@ -1349,7 +1349,7 @@
     </message>
     <message>
         <source>Name</source>
-        <translation>Name</translation>
+        <translation type="vanished">Name</translation>
     </message>
     <message>
         <source>Name of an image that the shader uses; may be empty</source>
@@ -1365,7 +1365,7 @@
     </message>
     <message>
         <source>Name under which the host registers the file</source>
-        <translation>Name, unter dem das Programm die Datei registriert</translation>
+        <translation type="vanished">Name, unter dem das Programm die Datei registriert</translation>
     </message>
     <message>
         <source>Neutral</source>
@@ -1377,11 +1377,11 @@
     </message>
     <message>
         <source>Nine numbers, row by row; the last row moves the picture</source>
-        <translation>Neun Zahlen, Zeile für Zeile; die letzte Zeile verschiebt das Bild</translation>
+        <translation type="vanished">Neun Zahlen, Zeile für Zeile; die letzte Zeile verschiebt das Bild</translation>
     </message>
     <message>
         <source>No file</source>
-        <translation>Keine Datei</translation>
+        <translation type="vanished">Keine Datei</translation>
     </message>
     <message>
         <source>No rumble</source>
@@ -1429,7 +1429,7 @@
     </message>
     <message>
         <source>Other file</source>
-        <translation>Andere Datei</translation>
+        <translation type="vanished">Andere Datei</translation>
     </message>
     <message>
         <source>Outline</source>
@@ -2124,7 +2124,7 @@
         <translation>Obere Linie, c</translation>
     </message>
     <message>
-        <source>Values of the shader's own controls; empty for those in the file</source>
+        <source>Values of the shader&apos;s own controls; empty for those in the file</source>
         <translation>Werte der eigenen Regler des Shaders; leer für die Werte in der Datei</translation>
     </message>
     <message>
@@ -2193,7 +2193,7 @@
     </message>
     <message>
         <source>What the file contains; LUTs and shaders are other files</source>
-        <translation>Inhalt der Datei; LUTs und Shader sind andere Dateien</translation>
+        <translation type="vanished">Inhalt der Datei; LUTs und Shader sind andere Dateien</translation>
     </message>
     <message>
         <source>What the glow looks like</source>

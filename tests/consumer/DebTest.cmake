@@ -36,6 +36,9 @@ if(loose)
   fail("${loose} lies beside everybody's libraries")
 endif()
 expect_in("${libeditoreffects1}" "./usr/share/EditorEffects/stock/" libeditoreffects1)
+if(EXISTS "${BUILD_DIR}/share/EditorEffects/translations") # not without Qt's tools
+  expect_in("${libeditoreffects1}" "./usr/share/EditorEffects/translations/editoreffects_de.qm" libeditoreffects1)
+endif()
 expect_in("${libeditoreffects-dev}" "./usr/include/EditorEffects/effects/Effects.h" libeditoreffects-dev)
 
 # The loader's cache is updated by a trigger, and by no script.
