@@ -1,29 +1,12 @@
-// Converts effects into what the render engine executes, for a clip of four seconds in full HD.
+// Converts effects into what the render engine executes.
 
 #include <EditorModel/CollectionProvider.h>
-#include <EditorModel/EffectFactory.h>
 #include <effects/Effects.h>
 
 #include <iostream>
 
+#include "ConvertEffect.h"
 #include "ReadEffect.h"
-
-namespace {
-
-void convert(Effect::Object const & effect)
-{
-    Effect::Factory::VideoParams params;
-    params.frameGeometry = {1920, 1080};
-    params.duration = 4 * MTime::unitsPerSecond;
-    auto const record = effect.type() == Effect::Type::Audio ? Effect::Factory::audioEffectSettings(effect, {})
-                                                             : Effect::Factory::videoEffectSettings(effect, params);
-    std::cout << effect.GetNameInArchive() << ": stage " << int(record.stageCode) << ", " << record.implementation
-              << '\n';
-    for (auto const & settings : record.settings)
-        std::cout << "  " << settings->GetClassId() << '\n';
-}
-
-} // namespace
 
 int main(int argc, char ** argv)
 {
@@ -36,8 +19,10 @@ int main(int argc, char ** argv)
     EditorCollection::CollectionProvider::setItemStorage(&noItems);
     Effect::ContentProvider const provider;
     try {
-        for (int index = 1; index < argc; ++index)
-            convert(*readEffect(argv[index]));
+        for (int index = 1; index < argc; ++index) {
+            auto const effect = readEffect(argv[index]);
+            std::cout << effect->GetNameInArchive() << '\n' << convertEffect(*effect);
+        }
     } catch (std::exception const & error) {
         std::cerr << error.what() << '\n';
         return 1;
