@@ -7,7 +7,6 @@
 #include <memory>
 #include <string>
 #include <tuple>
-#include <utility>
 
 #include "Form.h"
 
@@ -65,8 +64,10 @@ class MemberTable
 {
 public:
     constexpr MemberTable() = default;
-    constexpr MemberTable(Member const * first, std::size_t count)
-        : m_first(first)
+    /// Refers to the members, which are to outlive it.
+    template <std::size_t count>
+    constexpr explicit MemberTable(std::array<Member, count> const & members)
+        : m_first(members.data())
         , m_count(count)
     {}
 
@@ -74,47 +75,18 @@ public:
     Member const * end() const { return m_first + m_count; }
     Member const * find(std::string const & name) const;
 
-    /// The table of a class, built by the compiler.
-    template <class Class> static MemberTable const & of()
-    {
-        static constexpr auto members = collect<Class>(std::make_integer_sequence<int, maxMemberLines + 1>());
-        static constexpr MemberTable table(members.data(), members.size());
-        return table;
-    }
+    /// The members of a class; SETTINGS_DEFINE makes one for each.
+    template <class Class> struct ListOf;
 
 private:
-    template <class Class, int line, class Slot = decltype(Class::slot(std::integral_constant<int, line>()))>
-    static constexpr bool hasMember(std::integral_constant<int, line>)
-    {
-        return true;
-    }
-    template <class Class> static constexpr bool hasMember(...) { return false; }
-
-    template <class Class, int... line> static constexpr auto collect(std::integer_sequence<int, line...>)
-    {
-        constexpr std::size_t count = (std::size_t{0} + ... + hasMember<Class>(std::integral_constant<int, line>()));
-        std::array<Member, count> members{};
-        [[maybe_unused]] std::size_t next = 0;
-        (append<Class, line>(members, next), ...);
-        return members;
-    }
-
-    template <class Class, int line, std::size_t count>
-    static constexpr void append(
-        [[maybe_unused]] std::array<Member, count> & members, [[maybe_unused]] std::size_t & next)
-    {
-        constexpr std::integral_constant<int, line> here;
-        if constexpr (hasMember<Class>(here)) {
-            members[next++] = entry(Class::slot(here));
-        }
-    }
-
     template <auto pointer> struct Access;
 
-    template <auto pointer> static constexpr Member entry(MemberSlot<pointer> slot)
+    /// @param name  of the data member: "m_Scale" for the setting "Scale"
+    template <auto pointer> static constexpr Member entry(char const * name)
     {
         using A = Access<pointer>;
-        return {slot.name, A::isField, &A::isGiven, &A::isSame, &A::tell, &A::read, &A::expected};
+        constexpr std::size_t prefix = A::isField ? 0 : std::char_traits<char>::length("m_");
+        return {name + prefix, A::isField, &A::isGiven, &A::isSame, &A::tell, &A::read, &A::expected};
     }
 
     Member const * m_first = nullptr;
@@ -139,8 +111,23 @@ template <class Class, class T, T Class::*pointer> struct MemberTable::Access<po
 
 } // namespace Quoril::Proc
 
-/// What SETTINGS_CLASS declares.
-#define SETTINGS_DEFINE(Class)                                                                                         \
+/// What SETTINGS_CLASS declares. The data members of the class follow, 16 at most, in the order of their declaration.
+#define SETTINGS_DEFINE(Class, ...)                                                                                    \
+    template <> struct MemberTable::ListOf<Class>                                                                      \
+    {                                                                                                                  \
+        static constexpr std::array members{SETTINGS_MEMBERS(Class, __VA_ARGS__)};                                     \
+        /* Compiles only with a name for each data member, so that none is forgotten. */                               \
+        static void isComplete(Class const & object) { [[maybe_unused]] auto const & [__VA_ARGS__] = object; }         \
+    };                                                                                                                 \
+    SETTINGS_DEFINE_CLASS(Class, MemberTable(MemberTable::ListOf<Class>::members))
+
+/// The same for a class without data members.
+#define SETTINGS_DEFINE_EMPTY(Class)                                                                                   \
+    static_assert(sizeof(Class) == sizeof(Settings), "it has data members");                                           \
+    SETTINGS_DEFINE_CLASS(Class, MemberTable())
+
+/// @cond
+#define SETTINGS_DEFINE_CLASS(Class, theTable)                                                                         \
     std::unique_ptr<Settings> Class::Clone() const                                                                     \
     {                                                                                                                  \
         return std::make_unique<Class>(*this);                                                                         \
@@ -151,5 +138,32 @@ template <class Class, class T, T Class::*pointer> struct MemberTable::Access<po
     }                                                                                                                  \
     MemberTable const & Class::members() const                                                                         \
     {                                                                                                                  \
-        return MemberTable::of<Class>();                                                                               \
+        static constexpr MemberTable table = theTable;                                                                 \
+        return table;                                                                                                  \
     }
+
+#define SETTINGS_MEMBERS(Class, ...)                                                                                   \
+    SETTINGS_SELECT_MEMBERS(__VA_ARGS__, SETTINGS_MEMBERS_16, SETTINGS_MEMBERS_15, SETTINGS_MEMBERS_14,                \
+        SETTINGS_MEMBERS_13, SETTINGS_MEMBERS_12, SETTINGS_MEMBERS_11, SETTINGS_MEMBERS_10, SETTINGS_MEMBERS_9,        \
+        SETTINGS_MEMBERS_8, SETTINGS_MEMBERS_7, SETTINGS_MEMBERS_6, SETTINGS_MEMBERS_5, SETTINGS_MEMBERS_4,            \
+        SETTINGS_MEMBERS_3, SETTINGS_MEMBERS_2, SETTINGS_MEMBERS_1, )                                                  \
+    (Class, __VA_ARGS__)
+#define SETTINGS_SELECT_MEMBERS(_1, _2, _3, _4, _5, _6, _7, _8, _9, _10, _11, _12, _13, _14, _15, _16, chosen, ...)    \
+    chosen
+#define SETTINGS_MEMBERS_1(Class, name) entry<&Class::name>(#name)
+#define SETTINGS_MEMBERS_2(Class, name, ...) SETTINGS_MEMBERS_1(Class, name), SETTINGS_MEMBERS_1(Class, __VA_ARGS__)
+#define SETTINGS_MEMBERS_3(Class, name, ...) SETTINGS_MEMBERS_1(Class, name), SETTINGS_MEMBERS_2(Class, __VA_ARGS__)
+#define SETTINGS_MEMBERS_4(Class, name, ...) SETTINGS_MEMBERS_1(Class, name), SETTINGS_MEMBERS_3(Class, __VA_ARGS__)
+#define SETTINGS_MEMBERS_5(Class, name, ...) SETTINGS_MEMBERS_1(Class, name), SETTINGS_MEMBERS_4(Class, __VA_ARGS__)
+#define SETTINGS_MEMBERS_6(Class, name, ...) SETTINGS_MEMBERS_1(Class, name), SETTINGS_MEMBERS_5(Class, __VA_ARGS__)
+#define SETTINGS_MEMBERS_7(Class, name, ...) SETTINGS_MEMBERS_1(Class, name), SETTINGS_MEMBERS_6(Class, __VA_ARGS__)
+#define SETTINGS_MEMBERS_8(Class, name, ...) SETTINGS_MEMBERS_1(Class, name), SETTINGS_MEMBERS_7(Class, __VA_ARGS__)
+#define SETTINGS_MEMBERS_9(Class, name, ...) SETTINGS_MEMBERS_1(Class, name), SETTINGS_MEMBERS_8(Class, __VA_ARGS__)
+#define SETTINGS_MEMBERS_10(Class, name, ...) SETTINGS_MEMBERS_1(Class, name), SETTINGS_MEMBERS_9(Class, __VA_ARGS__)
+#define SETTINGS_MEMBERS_11(Class, name, ...) SETTINGS_MEMBERS_1(Class, name), SETTINGS_MEMBERS_10(Class, __VA_ARGS__)
+#define SETTINGS_MEMBERS_12(Class, name, ...) SETTINGS_MEMBERS_1(Class, name), SETTINGS_MEMBERS_11(Class, __VA_ARGS__)
+#define SETTINGS_MEMBERS_13(Class, name, ...) SETTINGS_MEMBERS_1(Class, name), SETTINGS_MEMBERS_12(Class, __VA_ARGS__)
+#define SETTINGS_MEMBERS_14(Class, name, ...) SETTINGS_MEMBERS_1(Class, name), SETTINGS_MEMBERS_13(Class, __VA_ARGS__)
+#define SETTINGS_MEMBERS_15(Class, name, ...) SETTINGS_MEMBERS_1(Class, name), SETTINGS_MEMBERS_14(Class, __VA_ARGS__)
+#define SETTINGS_MEMBERS_16(Class, name, ...) SETTINGS_MEMBERS_1(Class, name), SETTINGS_MEMBERS_15(Class, __VA_ARGS__)
+/// @endcond

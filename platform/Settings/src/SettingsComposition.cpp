@@ -12,10 +12,10 @@ template <> struct Parts<ColorF>
     }
 };
 
-SETTINGS_DEFINE(SettingsEffectSubFrame)
-SETTINGS_DEFINE(SettingsEffectOpacity)
-SETTINGS_DEFINE(SettingsEffectChromakey)
-SETTINGS_DEFINE(SettingsEffectColorBlender)
-SETTINGS_DEFINE(SettingsEffectAlphaInserter)
+SETTINGS_DEFINE(SettingsEffectSubFrame, srcLeft, srcTop, srcRight, srcBottom, dstLeft, dstTop, dstRight, dstBottom)
+SETTINGS_DEFINE(SettingsEffectOpacity, opacity)
+SETTINGS_DEFINE(SettingsEffectChromakey, m_Params, red, green, blue, alpha)
+SETTINGS_DEFINE(SettingsEffectColorBlender, blendMode, m_Intensity, m_BaseColor)
+SETTINGS_DEFINE_EMPTY(SettingsEffectAlphaInserter)
 
 } // namespace Quoril::Proc

@@ -33,6 +33,7 @@ private:
     }
 };
 
-SETTINGS_DEFINE(SettingsEffectMask)
+SETTINGS_DEFINE(SettingsEffectMask, m_FrameFunctors, m_BackGColor, m_FrameColor, kind, pixelSize, backgroundOpacity,
+    frameParameter, backgroundSmoothness, backgroundFill)
 
 } // namespace Quoril::Proc

@@ -17,8 +17,8 @@ template <> struct Form<std::shared_ptr<LUT::LUTTable>> : HandleForm<std::shared
     static std::string expected() { return "a table, which only code can give"; }
 };
 
-SETTINGS_DEFINE(SettingsEffectLUT)
-SETTINGS_DEFINE(SettingsEffectISF)
-SETTINGS_DEFINE(SettingsEffectTemplateQES)
+SETTINGS_DEFINE(SettingsEffectLUT, intensity, m_Table, m_Mode)
+SETTINGS_DEFINE(SettingsEffectISF, m_Config, m_PixelShader, m_VertexShader)
+SETTINGS_DEFINE(SettingsEffectTemplateQES, m_Version, m_Intensity, m_Shader, m_AuxImage)
 
 } // namespace Quoril::Proc

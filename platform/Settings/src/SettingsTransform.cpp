@@ -4,8 +4,8 @@
 
 namespace Quoril::Proc {
 
-SETTINGS_DEFINE(SettingsEffectTransform)
-SETTINGS_DEFINE(SettingsEffectMirror)
-SETTINGS_DEFINE(SettingsEffectFixVertVideo)
+SETTINGS_DEFINE(SettingsEffectTransform, mode, matrix)
+SETTINGS_DEFINE(SettingsEffectMirror, vertical, horizontal)
+SETTINGS_DEFINE(SettingsEffectFixVertVideo, geometry)
 
 } // namespace Quoril::Proc

@@ -36,8 +36,4 @@ template <> struct Start<std::array<std::int64_t, 2>>
 } // namespace OtherEngine
 
 #undef SETTINGS_FIELD
-#define SETTINGS_FIELD(name, ...)                                                                                      \
-    __VA_ARGS__ name = OtherEngine::Start<__VA_ARGS__>::make();                                                        \
-                                                                                                                       \
-private:                                                                                                               \
-    SETTINGS_SLOT(#name, name)
+#define SETTINGS_FIELD(name, ...) __VA_ARGS__ name = OtherEngine::Start<__VA_ARGS__>::make();

@@ -1,5 +1,5 @@
 /// @file
-/// How a settings class declares its members. A class is a table:
+/// How a settings class declares its members:
 /// @code
 /// class SETTINGS_EXPORT SettingsEffectTwirl final : public Settings
 /// {
@@ -9,8 +9,11 @@
 ///     SETTINGS_FIELD(type, Type)                      // a public data member
 /// };
 /// @endcode
-/// with `SETTINGS_DEFINE(SettingsEffectTwirl)` in one source of the library. That is all: comparison, tracing and
-/// reading find the members by the lines they stand on, so every SETTING and SETTINGS_FIELD needs a line of its own.
+/// One source of the library lists the data members, in the order of their declaration:
+/// @code
+/// SETTINGS_DEFINE(SettingsEffectTwirl, m_Params, m_Intensity, type)
+/// @endcode
+/// Comparison, tracing and reading follow from the list, which does not compile unless it is complete.
 #pragma once
 
 #include <functional>
@@ -78,17 +81,7 @@ template <class... Parameters> struct Setting
         }
     }
 };
-
-/// Names a data member of a settings class, `pointer`.
-template <auto pointer> struct MemberSlot
-{
-    char const * name;
-};
-
 /// @endcond
-
-/// Members stand on the lines below that of SETTINGS_CLASS, and no further than this.
-inline constexpr int maxMemberLines = 64;
 
 } // namespace Quoril::Proc
 
@@ -96,8 +89,6 @@ inline constexpr int maxMemberLines = 64;
 #define SETTINGS_BASE(Class)                                                                                           \
 private:                                                                                                               \
     friend class MemberTable;                                                                                          \
-    using Self = Class;                                                                                                \
-    static constexpr int s_firstLine = __LINE__;                                                                       \
                                                                                                                        \
 public:
 
@@ -126,28 +117,13 @@ private:                                                                        
                                                                                                                        \
 private:                                                                                                               \
     Setting<__VA_ARGS__> m_##Name;                                                                                     \
-    SETTINGS_SLOT(#Name, m_##Name)
-
-/// The public data member `name` of the type that follows; it starts value-initialised.
-#define SETTINGS_FIELD(name, ...)                                                                                      \
-    __VA_ARGS__ name{};                                                                                                \
-                                                                                                                       \
-private:                                                                                                               \
-    SETTINGS_SLOT(#name, name)
-
-/// @cond
-// Tells the member table of a member, by an overload of `slot` for the line. __LINE__ is the same in every translation
-// unit, which a counter would not be.
-#define SETTINGS_SLOT(text, member)                                                                                    \
-    static_assert(                                                                                                     \
-        __LINE__ > s_firstLine && __LINE__ - s_firstLine <= maxMemberLines, "too far from the head of the class");     \
-    static constexpr auto slot(std::integral_constant<int, __LINE__ - s_firstLine>)                                    \
-    {                                                                                                                  \
-        return MemberSlot<&Self::member>{text};                                                                        \
-    }                                                                                                                  \
                                                                                                                        \
 public:
 
+/// The public data member `name` of the type that follows; it starts value-initialised.
+#define SETTINGS_FIELD(name, ...) __VA_ARGS__ name{};
+
+/// @cond
 // A parameter list and its forwarding from a list of types.
 #define SETTINGS_SELECT(_1, _2, _3, _4, _5, _6, chosen, ...) chosen
 #define SETTINGS_PARAMETERS(...)                                                                                       \
