@@ -96,7 +96,7 @@ TEST(Classes, AreThoseOfTheRegistryInOrder)
     std::vector<std::string> names;
     for (Class const * info : Schema::classes())
         names.push_back(info->name);
-    EXPECT_EQ(names.size(), 89U);
+    EXPECT_GE(names.size(), 89U);
     EXPECT_TRUE(std::is_sorted(names.begin(), names.end()));
     // The test program has classes of its own besides.
     std::vector<std::string> registered;
