@@ -29,6 +29,7 @@ public:
 void addArchive(CLI::App & program);
 void addCatalogue(CLI::App & program);
 void addConvert(CLI::App & program);
+void addDescribe(CLI::App & program);
 void addList(CLI::App & program);
 void addLut(CLI::App & program);
 void addShow(CLI::App & program);

@@ -67,10 +67,10 @@ void change(json & document, std::string const & pair)
     auto const [key, text] = halves(pair);
     json const value = valueOf(text);
     try {
-        setField(document, key, value);
+        setField(document, FieldsOf::Class, key, value);
     } catch (Failure const & failure) {
         try {
-            setObjectField(document, key, value);
+            setField(document, FieldsOf::Object, key, value);
         } catch (Failure const &) {
             throw failure;
         }
@@ -209,17 +209,15 @@ json convertRequest(RenderHost & host, json const & request)
         throw Failure("the request names no class");
     checkKeys(request, "a request", {"class", "fields", "object", "video", "audio", "as"});
     json archived = document(*createEffect(request["class"]));
-    auto const replace = [&](char const * part, auto const & set) {
-        auto const changes = request.find(part);
+    for (auto const & [name, part] : {std::pair("fields", FieldsOf::Class), std::pair("object", FieldsOf::Object)}) {
+        auto const changes = request.find(name);
         if (changes == request.end())
-            return;
+            continue;
         if (!changes->is_object())
-            throw Failure(std::string("\"") + part + "\" is no object");
+            throw Failure(std::string("\"") + name + "\" is no object");
         for (auto const & [key, value] : changes->items())
-            set(archived, key, value);
-    };
-    replace("fields", setField);
-    replace("object", setObjectField);
+            setField(archived, part, key, value);
+    }
     return host.convert(*effectOf(archived), paramsOf(request));
 }
 

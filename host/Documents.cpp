@@ -1,36 +1,42 @@
 #include "Documents.h"
 
 #include <EditorSerialization/JsonArchive.h>
-#include <EditorSerialization/Registry.h>
 
 #include "Command.h"
+#include "Nearest.h"
 
 namespace Host {
 
+using Effect::Schema::Class;
+using Effect::Schema::Parameter;
 using nlohmann::json;
 using Serialize::Json::MetaDetails::s_class_name;
 using Serialize::Json::MetaDetails::s_meta;
 
-namespace {
-
-constexpr char const * objectName = "Effect::Object";
-constexpr char const * classPrefix = "Effect::";
-// Absent from a document when there is none.
-constexpr char const * optionalObjectKey = "range";
-
-std::string classOf(json const & document)
+Class const & classNamed(std::string const & name)
 {
-    return document.at(s_meta).at(s_class_name).get<std::string>();
+    if (Class const * const info = Effect::Schema::find(name))
+        return *info;
+    std::vector<std::string> names;
+    for (Class const * const info : Effect::Schema::classes())
+        names.push_back(info->name);
+    bool const hasNamespace = name.find("::") != std::string::npos;
+    throw Failure("there is no class \"" + name + "\"" + didYouMean((hasNamespace ? "" : "Effect::") + name, names));
 }
 
-} // namespace
+std::vector<Class const *> classesNamed(std::vector<std::string> const & names)
+{
+    if (names.empty())
+        return Effect::Schema::classes();
+    std::vector<Class const *> classes;
+    for (std::string const & name : names)
+        classes.push_back(&classNamed(name));
+    return classes;
+}
 
 std::unique_ptr<Serialize::ISerializable> create(std::string const & className)
 {
-    auto object = Serialize::Registry::create(className);
-    if (!object)
-        throw Failure("there is no class \"" + className + "\"");
-    return object;
+    return classNamed(className).create();
 }
 
 std::unique_ptr<Effect::Object> createEffect(std::string const & className)
@@ -60,51 +66,22 @@ std::unique_ptr<Effect::Object> effectOf(json const & document)
     return effect;
 }
 
-std::string baseOf(json const & document)
+void setField(json & document, FieldsOf part, std::string const & key, json value)
 {
-    // No field's key begins as the archive names do.
-    auto const key = document.get_ref<json::object_t const &>().lower_bound(classPrefix);
-    bool const isBase =
-        key != document.get_ref<json::object_t const &>().end() && key->first.rfind(classPrefix, 0) == 0;
-    return isBase ? key->first : std::string();
-}
-
-json ownFields(json const & document)
-{
-    json fields = document;
-    fields.erase(s_meta);
-    fields.erase(baseOf(document));
-    return fields;
-}
-
-void setField(json & document, std::string const & key, json value)
-{
-    std::string const className = classOf(document);
-    for (json * level = &document; classOf(*level) != objectName;) {
-        if (key != s_meta && key.rfind(classPrefix, 0) != 0 && level->contains(key)) {
-            (*level)[key] = std::move(value);
-            return;
-        }
-        std::string const base = baseOf(*level);
-        if (base.empty())
-            break;
-        level = &(*level)[base];
+    Class const & info = classNamed(document.at(s_meta).at(s_class_name));
+    Parameter const * found = nullptr;
+    std::vector<std::string> known;
+    for (Parameter const & parameter : info.parameters) {
+        if ((parameter.owner == Effect::Object::NameInArchive()) != (part == FieldsOf::Object))
+            continue;
+        known.push_back(parameter.key);
+        if (parameter.key == key)
+            found = &parameter; // own ones come last
     }
-    throw Failure(className + " has no field \"" + key + "\"");
-}
-
-void setObjectField(json & document, std::string const & key, json value)
-{
-    json * level = &document;
-    while (classOf(*level) != objectName) {
-        std::string const base = baseOf(*level);
-        if (base.empty())
-            throw Failure(classOf(document) + " is no effect");
-        level = &(*level)[base];
-    }
-    if (key == s_meta || (!level->contains(key) && key != optionalObjectKey))
-        throw Failure(std::string(objectName) + " has no field \"" + key + "\"");
-    (*level)[key] = std::move(value);
+    if (!found)
+        throw Failure((part == FieldsOf::Object ? Effect::Object::NameInArchive() : info.name) + " has no field \"" +
+                      key + '"' + didYouMean(key, known));
+    document[json::json_pointer(found->pointer)] = std::move(value);
 }
 
 } // namespace Host

@@ -4,13 +4,21 @@
 
 #include <memory>
 #include <string>
+#include <vector>
 
 #include <EditorModel/EffectObject.h>
 #include <EditorSerialization/ISerializable.h>
+#include <effects/Schema.h>
 
 #include <nlohmann/json.hpp>
 
 namespace Host {
+
+/// The description of a class. Throws a `Failure` for an unknown name, which suggests a known one.
+Effect::Schema::Class const & classNamed(std::string const & name);
+
+/// Those with these names, in that order; all of them where no name is given. Throws a `Failure` like `classNamed`.
+std::vector<Effect::Schema::Class const *> classesNamed(std::vector<std::string> const & names);
 
 /// A new object of the class with that archive name. Throws a `Failure` for an unknown name.
 std::unique_ptr<Serialize::ISerializable> create(std::string const & className);
@@ -24,17 +32,14 @@ nlohmann::json document(Serialize::ISerializable const & object);
 /// The effect in an archive document.
 std::unique_ptr<Effect::Object> effectOf(nlohmann::json const & document);
 
-/// The key of the base object in a document: the archive name of the direct base. Empty for an object without one.
-std::string baseOf(nlohmann::json const & document);
+/// Fields that a request to convert names apart.
+enum class FieldsOf
+{
+    Class, ///< the class's own and its bases' short of `Effect::Object`
+    Object ///< those of `Effect::Object`
+};
 
-/// The class's own keys with their values: neither the meta object nor the base.
-nlohmann::json ownFields(nlohmann::json const & document);
-
-/// Replaces the value of one of the class's own keys, or of its bases' short of `Effect::Object`. Throws a `Failure`
-/// for a key that the class does not have.
-void setField(nlohmann::json & document, std::string const & key, nlohmann::json value);
-
-/// Replaces the value of a key of `Effect::Object`. Throws a `Failure` for a key that it does not have.
-void setObjectField(nlohmann::json & document, std::string const & key, nlohmann::json value);
+/// Replaces the value of one key in an archive document. Throws a `Failure` for a key that there is not.
+void setField(nlohmann::json & document, FieldsOf part, std::string const & key, nlohmann::json value);
 
 } // namespace Host

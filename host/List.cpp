@@ -1,41 +1,37 @@
-#include <EditorSerialization/Registry.h>
-
+#include "ClassDescription.h"
 #include "Command.h"
-#include "Documents.h"
 #include "Output.h"
 
 namespace Host {
 
+using Effect::Schema::Class;
+using Effect::Schema::Parameter;
 using nlohmann::json;
 
 namespace {
 
-/// What there is to say of a class: its default object, and of a record that is no effect only what a record has.
-json describe(std::string const & className)
+/// The facts of a class with its own parameters' default values.
+json describe(Class const & info)
 {
-    auto const object = create(className);
-    json const archived = document(*object);
-    json described{{"class", className}, {"fields", ownFields(archived)}};
-    std::string const base = baseOf(archived);
-    described["base"] = base.empty() ? json() : json(base);
-    auto const text = [](QString const & value) { return value.toStdString(); };
-    if (auto const * const effect = dynamic_cast<Effect::Object const *>(object.get())) {
-        described["id"] = text(effect->id);
-        described["groupId"] = text(effect->groupId);
-        described["tag"] = text(effect->tag);
-        described["defaultTag"] = text(effect->defaultTag());
-        described["type"] = static_cast<int>(effect->type());
-        described["impl"] = static_cast<int>(effect->impl());
-        described["hasIntensity"] = effect->hasIntensity();
-        described["isTwoInput"] = effect->isTwoInput();
-        described["intensity"] = effect->intensity;
-        described["processingSettingsId"] = text(effect->processingSettingsId());
-    } else {
-        for (char const * const key : {"id", "groupId", "tag", "defaultTag", "type", "impl", "hasIntensity",
-                 "isTwoInput", "intensity", "processingSettingsId"})
-            described[key] = nullptr;
-    }
+    json described = factsOf(info);
+    json & fields = described["fields"] = json::object();
+    for (Parameter const & parameter : info.parameters)
+        if (parameter.owner == info.name)
+            fields[parameter.key] = parameter.defaultValue();
+    described["intensity"] = info.isEffect ? json(info.intensity) : json();
+    described["processingSettingsId"] = info.isEffect ? json(info.processingSettingsId.toStdString()) : json();
     return described;
+}
+
+/// A line of the table: the own parameters by label, with their default values.
+std::vector<std::string> rowOf(Class const & info)
+{
+    auto const orDash = [](std::string const & text) { return text.empty() ? "-" : text; };
+    std::vector<std::string> fields;
+    for (Parameter const & parameter : info.parameters)
+        if (parameter.owner == info.name)
+            fields.push_back(parameter.label().toStdString() + ": " + valueText(parameter, parameter.defaultValue()));
+    return {info.name, orDash(info.base), orDash(info.tag.toStdString()), joined(fields, "; ")};
 }
 
 struct Options
@@ -46,25 +42,20 @@ struct Options
 
 void list(Options const & options)
 {
-    json classes = json::array();
-    for (std::string const & name : Serialize::Registry::names()) {
-        json described = describe(name);
-        bool const isEffect = !described["id"].is_null();
-        if (isEffect || !options.effects)
-            classes.push_back(std::move(described));
+    json described = json::array();
+    std::vector<std::vector<std::string>> rows{{"CLASS", "BASE", "TAG", "FIELDS"}};
+    for (Class const * const info : Effect::Schema::classes()) {
+        if (options.effects && !info->isEffect)
+            continue;
+        if (options.asJson)
+            described.push_back(describe(*info));
+        else
+            rows.push_back(rowOf(*info));
     }
     if (options.asJson)
-        return printJson(classes);
-
-    std::vector<std::vector<std::string>> rows{{"CLASS", "BASE", "TAG", "FIELDS"}};
-    for (json const & entry : classes) {
-        std::string fields;
-        for (auto const & [key, value] : entry["fields"].items())
-            fields += (fields.empty() ? "" : " ") + key;
-        rows.push_back({entry["class"], entry["base"].is_null() ? "-" : entry["base"].get<std::string>(),
-            entry["tag"].is_null() || entry["tag"] == "" ? "-" : entry["tag"].get<std::string>(), fields});
-    }
-    printTable(rows);
+        printJson(described);
+    else
+        printTable(rows);
 }
 
 } // namespace

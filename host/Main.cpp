@@ -88,6 +88,7 @@ int main(int argc, char ** argv)
     program.require_subcommand(1);
     program.set_version_flag("--version", EDITOREFFECTS_VERSION);
     Host::addList(program);
+    Host::addDescribe(program);
     Host::addShow(program);
     Host::addArchive(program);
     Host::addConvert(program);
@@ -96,6 +97,7 @@ int main(int argc, char ** argv)
     Host::addTool(program);
     Host::setExamples(program,
         "  effectctl list\n"
+        "  effectctl describe Effect::TiltShift\n"
         "  effectctl show --class Effect::Crop\n"
         "  effectctl convert --class Effect::Blur --set intensity=20\n"
         "  effectctl catalogue --convert\n"

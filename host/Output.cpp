@@ -4,12 +4,10 @@
 #include <cerrno>
 #include <cstdlib>
 #include <iostream>
+#include <sstream>
 
 #include <unistd.h>
 
-#include <EditorSerialization/JsonArchive.h>
-
-#include "Documents.h"
 #include "Progress.h"
 
 #include <QString>
@@ -17,19 +15,11 @@
 namespace Host {
 
 using nlohmann::json;
-using Serialize::Json::MetaDetails::s_class_name;
-using Serialize::Json::MetaDetails::s_meta;
 
 namespace {
 
 constexpr int indentWidth = 2;
-
-/// Characters, not bytes, as far as one column a character goes.
-std::size_t width(std::string const & text)
-{
-    return static_cast<std::size_t>(
-        std::count_if(text.begin(), text.end(), [](char byte) { return (byte & 0xC0) != 0x80; }));
-}
+constexpr std::size_t pageWidth = 80; // columns
 
 bool isControl(char byte)
 {
@@ -52,27 +42,6 @@ constexpr char const * bold = "\033[1m";
 constexpr char const * dim = "\033[2m";
 constexpr char const * red = "\033[31m";
 constexpr char const * plain = "\033[0m";
-
-std::string margin(int indent)
-{
-    return std::string(static_cast<std::size_t>(indent), ' ');
-}
-
-bool isObjectDocument(json const & value)
-{
-    return value.is_object() && value.contains(s_meta);
-}
-
-/// The fields of an object, those of its bases first.
-void collectFields(json const & document, std::vector<std::pair<std::string, json const *>> & fields)
-{
-    std::string const base = baseOf(document);
-    if (!base.empty())
-        collectFields(document[base], fields);
-    for (auto const & [key, value] : document.items())
-        if (key != s_meta && key != base)
-            fields.emplace_back(key, &value);
-}
 
 } // namespace
 
@@ -155,6 +124,17 @@ std::string quoted(std::string const & text)
     return std::any_of(text.begin(), text.end(), isControl) ? toText(text) : text;
 }
 
+std::size_t columnsOf(std::string const & text)
+{
+    return static_cast<std::size_t>(
+        std::count_if(text.begin(), text.end(), [](char byte) { return (byte & 0xC0) != 0x80; }));
+}
+
+std::string paintedAndPadded(Look look, std::string const & text, std::size_t columns)
+{
+    return painted(look, text) + std::string(columns - std::min(columns, columnsOf(text)), ' ');
+}
+
 std::string joined(std::vector<std::string> const & words, std::string const & between)
 {
     std::string text;
@@ -180,7 +160,7 @@ void printTable(std::vector<std::vector<std::string>> const & rows)
     for (auto const & row : rows) {
         widths.resize(std::max(widths.size(), row.size()));
         for (std::size_t column = 0; column < row.size(); ++column)
-            widths[column] = std::max(widths[column], width(row[column]));
+            widths[column] = std::max(widths[column], columnsOf(row[column]));
     }
     for (auto const & row : rows) {
         std::string line;
@@ -189,39 +169,30 @@ void printTable(std::vector<std::vector<std::string>> const & rows)
             line += painted(&row == &rows.front() ? Look::Heading : Look::Plain, row[column]);
             // The last column is not padded: lines end where their text does.
             if (!isLast)
-                line += isAligned ? std::string(widths[column] - width(row[column]) + indentWidth, ' ') : "\t";
+                line += isAligned ? std::string(widths[column] - columnsOf(row[column]) + indentWidth, ' ') : "\t";
         }
         std::cout << line << '\n';
     }
 }
 
-void printDocument(json const & document, int indent)
+void printParagraph(std::string const & text, std::size_t indent, std::string const & label, std::size_t labelWidth)
 {
-    std::cout << margin(indent) << painted(Look::Heading, document[s_meta][s_class_name]) << '\n';
-    std::vector<std::pair<std::string, json const *>> fields;
-    collectFields(document, fields);
-    std::size_t longest = 0;
-    for (auto const & [key, value] : fields)
-        longest = std::max(longest, key.size());
-    for (auto const & [key, value] : fields) {
-        std::cout << margin(indent + indentWidth) << painted(Look::Dim, key)
-                  << std::string(longest - key.size() + indentWidth, ' ');
-        bool const holdsObjects = value->is_array() && std::any_of(value->begin(), value->end(), isObjectDocument);
-        if (isObjectDocument(*value)) {
-            std::cout << '\n';
-            printDocument(*value, indent + 2 * indentWidth);
-        } else if (holdsObjects) {
-            std::cout << value->size() << (value->size() == 1 ? " item\n" : " items\n");
-            for (json const & item : *value) {
-                if (isObjectDocument(item))
-                    printDocument(item, indent + 2 * indentWidth);
-                else
-                    std::cout << margin(indent + 2 * indentWidth) << "(empty)\n";
-            }
-        } else {
-            std::cout << toText(*value) << '\n';
+    std::string const margin(indent + labelWidth, ' ');
+    std::string line = std::string(indent, ' ') + paintedAndPadded(Look::Dim, label, labelWidth);
+    std::size_t columns = margin.size();
+    bool isEmpty = true;
+    std::istringstream words(text);
+    for (std::string word; words >> word; isEmpty = false) {
+        if (!isEmpty && columns + 1 + columnsOf(word) > pageWidth) {
+            std::cout << line << '\n';
+            line = margin;
+            columns = margin.size();
+            isEmpty = true;
         }
+        line += (isEmpty ? "" : " ") + word;
+        columns += columnsOf(word) + (isEmpty ? 0 : 1);
     }
+    std::cout << line << '\n';
 }
 
 } // namespace Host

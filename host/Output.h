@@ -65,6 +65,12 @@ std::string asText(std::string_view bytes);
 /// A text for use within a line: as JSON where there are control characters in it.
 std::string quoted(std::string const & text);
 
+/// Columns that a text takes, as far as one column a character goes.
+std::size_t columnsOf(std::string const & text);
+
+/// The text in that look, with blanks behind it up to that many columns.
+std::string paintedAndPadded(Look look, std::string const & text, std::size_t columns);
+
 /// The words with `between` between them.
 std::string joined(std::vector<std::string> const & words, std::string const & between);
 
@@ -82,8 +88,11 @@ void printJson(nlohmann::json const & document);
 /// Rows of cells. The first row is the heading.
 void printTable(std::vector<std::vector<std::string>> const & rows);
 
-/// An archive document as an indented list of keys and values, base classes run together with the class.
-void printDocument(nlohmann::json const & document, int indent = 0);
+/// A text in lines of at most 80 columns, broken at blanks.
+/// @param indent  of every line
+/// @param label   what the first line begins with, padded to `labelWidth` columns; the other lines are indented as much
+void printParagraph(
+    std::string const & text, std::size_t indent, std::string const & label = {}, std::size_t labelWidth = 0);
 
 /// @}
 

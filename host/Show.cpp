@@ -1,5 +1,9 @@
+#include <algorithm>
 #include <iostream>
 
+#include <EditorSerialization/JsonArchive.h>
+
+#include "ClassDescription.h"
 #include "Command.h"
 #include "Documents.h"
 #include "Files.h"
@@ -7,7 +11,11 @@
 
 namespace Host {
 
+using Effect::Schema::Class;
+using Effect::Schema::Parameter;
 using nlohmann::json;
+using Serialize::Json::MetaDetails::s_class_name;
+using Serialize::Json::MetaDetails::s_meta;
 
 namespace {
 
@@ -15,6 +23,71 @@ struct Options : FileOptions
 {
     std::string className;
 };
+
+constexpr std::size_t indentWidth = 2;
+
+void printHeading(std::string const & text, std::size_t indent)
+{
+    std::cout << std::string(indent, ' ') << painted(Look::Heading, text) << '\n';
+}
+
+/// The class of a document, which may be that of an element of a list.
+Class const & classOf(json const & document)
+{
+    return classNamed(document.at(s_meta).at(s_class_name));
+}
+
+void printFields(Class const & info, json const & document, std::size_t indent);
+
+/// What a list or a record holds, below its line.
+void printElements(Parameter const & parameter, json const & value, std::size_t indent)
+{
+    if (value.is_object())
+        return printFields(*parameter.elements, value, indent);
+    for (json const & element : value) {
+        if (element.is_null()) {
+            std::cout << std::string(indent, ' ') << "(empty)\n";
+            continue;
+        }
+        Class const & info = classOf(element);
+        printHeading(info.name, indent);
+        printFields(info, element, indent + indentWidth);
+    }
+}
+
+/// Every parameter by key and label with its value, those of the bases first.
+void printFields(Class const & info, json const & document, std::size_t indent)
+{
+    std::size_t longestKey = 0;
+    std::size_t longestLabel = 0;
+    for (Parameter const & parameter : info.parameters) {
+        longestKey = std::max(longestKey, columnsOf(parameter.key));
+        longestLabel = std::max(longestLabel, columnsOf(parameter.label().toStdString()));
+    }
+    for (Parameter const & parameter : info.parameters) {
+        json::json_pointer const pointer(parameter.pointer);
+        if (!document.contains(pointer))
+            continue; // a range that there is none of
+        json const & value = document[pointer];
+        std::cout << std::string(indent, ' ') << paintedAndPadded(Look::Dim, parameter.key, longestKey + indentWidth);
+        std::string const label = parameter.label().toStdString();
+        if (parameter.elements && value.is_object())
+            std::cout << label << '\n';
+        else
+            std::cout << paintedAndPadded(Look::Plain, label, longestLabel + indentWidth) << valueText(parameter, value)
+                      << '\n';
+        if (parameter.elements)
+            printElements(parameter, value, indent + indentWidth);
+    }
+}
+
+/// An archive document as an indented list, base classes run together with the class.
+void printDocument(json const & document)
+{
+    Class const & info = classOf(document);
+    printHeading(info.name, 0);
+    printFields(info, document, indentWidth);
+}
 
 /// A document by itself, as it is an archive and can be read as one.
 void showJson(std::vector<File> const & files)

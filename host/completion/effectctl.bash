@@ -25,9 +25,10 @@ _effectctl()
     local options=--help
     case $command in
         '')
-            _effectctl_words "--help --version list show archive convert catalogue lut tool"
+            _effectctl_words "--help --version list describe show archive convert catalogue lut tool"
             return ;;
         list) options+=' --json --effects' ;;
+        describe) options+=' --json' ;;
         show) options+=' --class --json' ;;
         archive) options+=' --format' ;;
         convert) options+=' --batch --class --set --resource --track --json' ;;
@@ -41,7 +42,7 @@ _effectctl()
         --class)
             local which=--effects
             [[ $command == show ]] && which=
-            _effectctl_words "$("${words[0]}" list $which 2>/dev/null | tail -n +2 | cut -f 1)"
+            _effectctl_words "$(_effectctl_classes $which)"
             return ;;
         --format)
             _effectctl_words "json bin"
@@ -61,13 +62,21 @@ _effectctl()
     esac
     if [[ $word == -* ]]; then
         _effectctl_words "$options"
+    elif [[ $command == describe ]]; then
+        _effectctl_words "$(_effectctl_classes)"
     elif [[ $command != list && $command != catalogue ]]; then
         _effectctl_files "$word"
     fi
 }
 
-# The keys of the class that the line names, as `KEY=`. A range has its key only where there is one.
-_effectctl_keys()
+# The names of all classes, or with --effects those of effects.
+_effectctl_classes()
+{
+    "${words[0]}" list "$@" 2>/dev/null | tail -n +2 | cut -f 1
+}
+
+# What the program says about the class that the line names.
+_effectctl_description()
 {
     local name='' index
     for ((index = 1; index < ${#words[@]} - 1; ++index)); do
@@ -76,9 +85,13 @@ _effectctl_keys()
             --class=*) name=${words[index]#*=} ;;
         esac
     done
-    [[ -n $name ]] || return
-    "${words[0]}" show --class "$name" 2>/dev/null | sed -n 's/^  \([A-Za-z_0-9]*\)  .*/\1=/p'
-    printf 'range=\n'
+    [[ -n $name ]] && "${words[0]}" describe "$name" 2>/dev/null
+}
+
+# Its keys, as `KEY=`. Those of elements in lists are indented more.
+_effectctl_keys()
+{
+    _effectctl_description | sed -n 's/^    key  *\(.*\)/\1=/p'
 }
 
 # Those of the words that begin as the current one. Where bash parts words at colons, it replaces only what is behind

@@ -177,7 +177,7 @@ TEST_F(FilesTest, ShowPrintsAHolderWithWhatIsInside)
     EXPECT_EQ(run.status, 0) << run.errors;
     EXPECT_THAT(run.output, StartsWith("Effect::AudioEnhance\n"));
     EXPECT_THAT(run.output, HasSubstr("2 items\n    Effect::AudioNoiseSuppress\n"));
-    EXPECT_THAT(run.output, HasSubstr("levelPercent  50\n"));
+    EXPECT_THAT(run.output, HasSubstr("levelPercent  Strength       50 %\n"));
     EXPECT_THAT(run.output, HasSubstr("    (empty)\n"));
 }
 
@@ -259,7 +259,7 @@ TEST_F(FilesTest, ItemsStayItems)
 
     std::string const shown = effectctl({"show", file}).output;
     EXPECT_THAT(shown, StartsWith("Effect::Lut\n"));
-    EXPECT_THAT(shown, HasSubstr("  resourcePath  \"../tables/mine.cube\"\n"));
+    EXPECT_THAT(shown, HasSubstr("  resourcePath  Resource path  \"../tables/mine.cube\"\n"));
     EXPECT_THAT(shown, HasSubstr("categories  [\"category_b\",\"category_a\"]\nnote  \"kept\"\n"));
 
     // Where there is no categories, none are made up.

@@ -169,6 +169,11 @@ TEST(Completion, BashOffersClassesAndFiles)
         EXPECT_EQ(offered.count("Effect::Frame"), 0U) << command;
         EXPECT_EQ(offered.count("Effect::AlphaInserter"), 1U) << command;
     }
+    for (char const * const command : {"describe"}) {
+        EXPECT_EQ(bashOffers(std::string("effectctl ") + command + " ").size(), 89U) << command;
+        EXPECT_EQ(
+            bashOffers(std::string("effectctl ") + command + " Effect::Crop Effect::ChromaK"), Words{"ChromaKey"});
+    }
     QTemporaryDir const folder;
     std::ofstream(folder.filePath("one.json").toStdString()) << "{}";
     std::string const start = folder.path().toStdString() + "/o";
@@ -190,6 +195,9 @@ TEST(Completion, BashOffersTheKeysOfTheClass)
     EXPECT_EQ(bashOffers("effectctl convert --class Effect::AudioReverb --json --set dry"), Words{"dryWetBalance="});
     EXPECT_EQ(bashOffers("effectctl convert --class Effect::Opacity --set opacity="), Words{});
     EXPECT_EQ(bashOffers("effectctl convert --set "), Words{});
+    // Keys of elements in lists are none of the effect's.
+    EXPECT_EQ(bashOffers("effectctl convert --class Effect::Mask --set ").count("shape="), 0U);
+    EXPECT_EQ(bashOffers("effectctl convert --class Effect::Mask --set ").count("concealFrames="), 1U);
 }
 
 /// A shell of the user's, in which the tabulator key completes.
