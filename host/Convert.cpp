@@ -13,6 +13,7 @@
 #include <effects/Effects.h>
 #include <utils/EffectUtils.h>
 
+#include "Changes.h"
 #include "Command.h"
 #include "Conversion.h"
 #include "Documents.h"
@@ -37,45 +38,6 @@ struct Options : FileOptions
     std::vector<std::string> tracks;
     bool batch = false;
 };
-
-/// A text "NAME=VALUE" in its two halves.
-std::pair<std::string, std::string> halves(std::string const & text)
-{
-    std::size_t const sign = text.find('=');
-    return {text.substr(0, sign), text.substr(sign + 1)};
-}
-
-std::string checkPair(std::string const & text)
-{
-    std::size_t const sign = text.find('=');
-    return sign == 0 || sign == text.npos ? text + " is not of the form NAME=VALUE" : std::string();
-}
-
-/// A JSON value; what is no JSON is a text.
-json valueOf(std::string const & text)
-{
-    try {
-        return Serialize::Json::parse(text);
-    } catch (std::exception const &) {
-        return text;
-    }
-}
-
-/// Sets one key, the class's own or one of `Effect::Object`.
-void change(json & document, std::string const & pair)
-{
-    auto const [key, text] = halves(pair);
-    json const value = valueOf(text);
-    try {
-        setField(document, FieldsOf::Class, key, value);
-    } catch (Failure const & failure) {
-        try {
-            setField(document, FieldsOf::Object, key, value);
-        } catch (Failure const &) {
-            throw failure;
-        }
-    }
-}
 
 void printRecord(json const & record)
 {
@@ -150,10 +112,12 @@ void convertFiles(RenderHost & host, Options const & options)
 
 void convertClass(RenderHost & host, Options const & options)
 {
-    json archived = document(*createEffect(options.className));
-    for (std::string const & pair : options.changes)
-        change(archived, pair);
-    json const record = recordOf(host, *effectOf(archived), {});
+    auto const effect = createEffect(options.className);
+    for (std::string const & change : options.changes) {
+        auto const [key, value] = halves(change);
+        setParameter(*effect, key, value);
+    }
+    json const record = recordOf(host, *effect, {});
     if (options.asJson)
         printJson(record);
     else
@@ -288,22 +252,19 @@ void addConvert(CLI::App & program)
     auto * const batch = command->add_flag(
         "--batch", options->batch, "Read a JSON request a line from standard input and answer each with a line");
     auto * const byClass = addClass(*command, options->className, {files, batch});
-    command->add_option("--set", options->changes, "Change a field of the default effect of --class")
+    addPairs(*command, "--set", options->changes, "Change a parameter of the default effect of --class")
         ->option_text("KEY=VALUE ...")
-        ->needs(byClass)
-        ->check(checkPair);
-    command
-        ->add_option(
-            "--resource", options->resources, "Make an existing file the resource of that name, whatever asks for it")
-        ->option_text("NAME=FILE ...")
-        ->check(checkPair);
-    command->add_option("--track", options->tracks, "Make an existing file the motion track of that identifier")
-        ->option_text("ID=FILE ...")
-        ->check(checkPair);
+        ->needs(byClass);
+    addPairs(*command, "--resource", options->resources,
+        "Make an existing file the resource of that name, whatever asks for it")
+        ->option_text("NAME=FILE ...");
+    addPairs(*command, "--track", options->tracks, "Make an existing file the motion track of that identifier")
+        ->option_text("ID=FILE ...");
     command->add_flag("--json", options->asJson, std::string(filesAsJson) + "; for --class, the object alone");
     setExamples(*command,
         "  effectctl convert blur.json\n"
         "  effectctl convert --class Effect::Blur --set intensity=20\n"
+        "  effectctl convert --class Effect::WhiteBalance --set color=#00c800\n"
         "  effectctl convert --json stock/ColorFilters 'more/*.json'\n"
         "  effectctl show --class Effect::Crop --json | effectctl convert -\n"
         "  echo '{\"class\": \"Effect::Blur\", \"object\": {\"intensity\": 20}}' | effectctl convert --batch");

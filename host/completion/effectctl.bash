@@ -52,9 +52,14 @@ _effectctl()
             mapfile -t COMPREPLY < <(compgen -d -- "$word")
             return ;;
         --set)
-            [[ $word == *=* ]] && return
-            compopt -o nospace 2>/dev/null
-            _effectctl_words "$(_effectctl_keys)"
+            if [[ $word == *=* ]]; then
+                local key=${word%%=*}
+                word=${word#*=}
+                _effectctl_words "$(_effectctl_choices "$key")"
+            else
+                compopt -o nospace 2>/dev/null
+                _effectctl_words "$(_effectctl_keys)"
+            fi
             return ;;
         --resource | --track)
             [[ $word == *=* ]] && _effectctl_files "${word#*=}"
@@ -92,6 +97,16 @@ _effectctl_description()
 _effectctl_keys()
 {
     _effectctl_description | sed -n 's/^    key  *\(.*\)/\1=/p'
+}
+
+# The names of the choices that a key has: the first one behind "choices", the others below it.
+_effectctl_choices()
+{
+    _effectctl_description | awk -v key="$1" '
+        /^    [^ ]/ { inside = 0 }
+        /^    key / { wanted = $2 == key }
+        /^    choices / { inside = wanted; $1 = ""; $0 = $0 }
+        inside { print $1 }'
 }
 
 # Those of the words that begin as the current one. Where bash parts words at colons, it replaces only what is behind

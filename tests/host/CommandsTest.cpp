@@ -500,8 +500,8 @@ TEST_F(FilesTest, ValuesAreJsonOrTexts)
         return effectctl({"convert", "--json", "--class", "Effect::Blur", "--set", pair});
     };
     EXPECT_EQ(set("tag=[\"a\"").status, 0); // no JSON, so a text
-    EXPECT_THAT(set("tag=[\"a\"]").errors, HasSubstr("found array"));
-    EXPECT_THAT(set("intensity=high").errors, HasSubstr("found string"));
+    EXPECT_THAT(set("tag=[\"a\"]").errors, HasSubstr("[\"a\"] is given, allowed is a text"));
+    EXPECT_THAT(set("intensity=high").errors, HasSubstr("\"high\" is given, allowed is a finite number"));
     // Deeper than any document: it is not walked.
     EXPECT_EQ(set("tag=" + QString("[").repeated(60000) + QString("]").repeated(60000)).status, 0);
 }

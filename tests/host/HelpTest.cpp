@@ -200,6 +200,15 @@ TEST(Completion, BashOffersTheKeysOfTheClass)
     EXPECT_EQ(bashOffers("effectctl convert --class Effect::Mask --set ").count("concealFrames="), 1U);
 }
 
+TEST(Completion, BashOffersTheChoicesOfAKey)
+{
+    std::string const line = "effectctl convert --class Effect::Mask --set";
+    EXPECT_EQ(bashOffers(line + " backgroundFill="), (Words{"Color", "Blur"}));
+    EXPECT_EQ(bashOffers(line + "=backgroundFill=B"), Words{"Blur"});
+    EXPECT_EQ(bashOffers(line + " backgroundOpacity="), Words{});
+    EXPECT_EQ(bashOffers(line + " shape="), Words{}); // a key of elements
+}
+
 /// A shell of the user's, in which the tabulator key completes.
 std::string completedBy(std::vector<std::string> command, std::string const & setup, std::string const & line)
 {
@@ -218,6 +227,7 @@ std::string completedBy(std::vector<std::string> command, std::string const & se
 
 constexpr char const * showLine = "effectctl sho\t--class Effect::Cro\t--js\t";
 constexpr char const * convertLine = "effectctl conv\t--class Effect::Opac\t--set opa\t0.5";
+constexpr char const * choiceLine = "effectctl convert --class Effect::Mirror --set vertical=Sec\t";
 
 TEST(Completion, WorksInBash)
 {
@@ -229,6 +239,7 @@ TEST(Completion, WorksInBash)
     };
     EXPECT_THAT(completed(showLine), HasSubstr("\"class\": \"Effect::Crop\""));
     EXPECT_THAT(completed(convertLine), HasSubstr("opacity\033[0m = 0.5"));
+    EXPECT_THAT(completed(choiceLine), HasSubstr("vertical\033[0m = 2"));
 }
 
 TEST(Completion, WorksInZsh)
@@ -244,6 +255,7 @@ TEST(Completion, WorksInZsh)
     };
     EXPECT_THAT(completed(showLine), HasSubstr("\"class\": \"Effect::Crop\""));
     EXPECT_THAT(completed(convertLine), HasSubstr("opacity\033[0m = 0.5"));
+    EXPECT_THAT(completed(choiceLine), HasSubstr("vertical\033[0m = 2"));
 }
 
 TEST(Completion, ZshKnowsEveryCommandAndOption)
