@@ -83,6 +83,7 @@ if(TARGET effectctl)
     INSTALL_RPATH "$ORIGIN/${lib_from_bin};$ORIGIN/${platform_from_bin}"
     INSTALL_RPATH_USE_LINK_PATH ${platform_elsewhere})
   install(TARGETS effectctl RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}" COMPONENT tool)
+  install(FILES ${EDITOREFFECTS_SCHEMAS} DESTINATION "${CMAKE_INSTALL_DATADIR}/EditorEffects/schema" COMPONENT tool)
   install(FILES host/effectctl.1 DESTINATION "${CMAKE_INSTALL_MANDIR}/man1" COMPONENT tool)
   install(FILES host/completion/effectctl.bash RENAME effectctl
     DESTINATION "${CMAKE_INSTALL_DATADIR}/bash-completion/completions" COMPONENT tool)

@@ -89,6 +89,7 @@ int main(int argc, char ** argv)
     program.set_version_flag("--version", EDITOREFFECTS_VERSION);
     Host::addList(program);
     Host::addDescribe(program);
+    Host::addSchema(program);
     Host::addShow(program);
     Host::addArchive(program);
     Host::addConvert(program);

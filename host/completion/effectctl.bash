@@ -25,10 +25,11 @@ _effectctl()
     local options=--help
     case $command in
         '')
-            _effectctl_words "--help --version list describe show archive convert catalogue lut tool"
+            _effectctl_words "--help --version list describe schema show archive convert catalogue lut tool"
             return ;;
         list) options+=' --json --effects' ;;
         describe) options+=' --json' ;;
+        schema) options+=' --items --closed' ;;
         show) options+=' --class --json' ;;
         archive) options+=' --format' ;;
         convert) options+=' --batch --class --set --resource --track --json' ;;
@@ -67,7 +68,7 @@ _effectctl()
     esac
     if [[ $word == -* ]]; then
         _effectctl_words "$options"
-    elif [[ $command == describe ]]; then
+    elif [[ $command == describe || $command == schema ]]; then
         _effectctl_words "$(_effectctl_classes)"
     elif [[ $command != list && $command != catalogue ]]; then
         _effectctl_files "$word"

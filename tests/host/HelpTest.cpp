@@ -169,7 +169,7 @@ TEST(Completion, BashOffersClassesAndFiles)
         EXPECT_EQ(offered.count("Effect::Frame"), 0U) << command;
         EXPECT_EQ(offered.count("Effect::AlphaInserter"), 1U) << command;
     }
-    for (char const * const command : {"describe"}) {
+    for (char const * const command : {"describe", "schema"}) {
         EXPECT_EQ(bashOffers(std::string("effectctl ") + command + " ").size(), 89U) << command;
         EXPECT_EQ(
             bashOffers(std::string("effectctl ") + command + " Effect::Crop Effect::ChromaK"), Words{"ChromaKey"});
