@@ -3,10 +3,10 @@
 #include <stdexcept>
 
 #include <EditorSerialization/JsonArchive.h>
+#include <EditorSerialization/Nearest.h>
 #include <effects/Schema.h>
 
 #include "Command.h"
-#include "Nearest.h"
 #include "Output.h"
 
 #include <QString>
@@ -57,7 +57,7 @@ json choiceNamed(std::string const & text, Parameter const & parameter)
         names.emplace_back(choice.name);
         choices.push_back(std::string(choice.name) + " (" + std::to_string(choice.value) + ')');
     }
-    std::string const suggestion = didYouMean(text, names);
+    std::string const suggestion = Serialize::didYouMean(text, names);
     throw Failure("\"" + parameter.key + "\" has no choice \"" + text + '"' +
                   (suggestion.empty() ? "; allowed" : suggestion + " Allowed") + " is one of " + joined(choices, ", ") +
                   (parameter.beyond == Effect::Beyond::Refused ? "" : ", or an integer"));
@@ -86,7 +86,7 @@ void setText(ISerializable & object, Parameter const & parameter, std::string co
     std::vector<std::string> known;
     for (Parameter const & parameter : place.info.parameters)
         known.push_back(isPointer ? parameter.pointer : parameter.key);
-    std::string const suggestion = didYouMean(key, known);
+    std::string const suggestion = Serialize::didYouMean(key, known);
     throw Failure(place.name + " has no field \"" + key + '"' +
                   (suggestion.empty() ? ", only " + joined(known, ", ") : suggestion));
 }

@@ -1,9 +1,9 @@
 #include "Documents.h"
 
 #include <EditorSerialization/JsonArchive.h>
+#include <EditorSerialization/Nearest.h>
 
 #include "Command.h"
-#include "Nearest.h"
 
 namespace Host {
 
@@ -21,7 +21,7 @@ Class const & classNamed(std::string const & name)
     for (Class const * const info : Effect::Schema::classes())
         names.push_back(info->name);
     bool const hasNamespace = name.find("::") != std::string::npos;
-    throw Failure("there is no class \"" + name + "\"" + didYouMean((hasNamespace ? "" : "Effect::") + name, names));
+    throw Failure("there is no class \"" + name + "\"" + Serialize::didYouMean((hasNamespace ? "" : "Effect::") + name, names));
 }
 
 std::vector<Class const *> classesNamed(std::vector<std::string> const & names)
@@ -80,7 +80,7 @@ void setField(json & document, FieldsOf part, std::string const & key, json valu
     }
     if (!found)
         throw Failure((part == FieldsOf::Object ? Effect::Object::NameInArchive() : info.name) + " has no field \"" +
-                      key + '"' + didYouMean(key, known));
+                      key + '"' + Serialize::didYouMean(key, known));
     document[json::json_pointer(found->pointer)] = std::move(value);
 }
 

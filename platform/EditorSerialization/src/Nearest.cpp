@@ -1,9 +1,9 @@
-#include "Nearest.h"
+#include <EditorSerialization/Nearest.h>
 
 #include <algorithm>
 #include <cctype>
 
-namespace Host {
+namespace Serialize {
 
 namespace {
 
@@ -66,4 +66,4 @@ std::string didYouMean(std::string_view word, std::vector<std::string> const & c
     return meant.empty() ? std::string() : "; did you mean \"" + meant + "\"?";
 }
 
-} // namespace Host
+} // namespace Serialize

@@ -1,11 +1,11 @@
-#include <host/Nearest.h>
+#include <EditorSerialization/Nearest.h>
 
 #include <gtest/gtest.h>
 
 namespace {
 
-using Host::didYouMean;
-using Host::nearest;
+using Serialize::didYouMean;
+using Serialize::nearest;
 
 struct Case
 {
