@@ -7,6 +7,7 @@
 #include <boost/archive/impl/archive_serializer_map.ipp>
 #include <nlohmann/json.hpp>
 
+#include <EditorSerialization/JsonTree.h>
 #include <EditorSerialization/Registry.h>
 
 // The parts of the framework's templates that live in one module per archive type.
@@ -47,26 +48,6 @@ std::string lineAndColumn(std::string_view text, std::size_t offset)
     std::size_t const lineStart = before.rfind('\n') + 1; // 0 when there is none
     return "line " + std::to_string(1 + std::count(before.begin(), before.end(), '\n')) + ", column " +
            std::to_string(1 + before.size() - lineStart);
-}
-
-/// A key or an index as one step of a JSON pointer.
-std::string pointerStep(std::string_view key)
-{
-    std::string step = "/";
-    for (char const unit : key) {
-        if (unit == '~')
-            step += "~0";
-        else if (unit == '/')
-            step += "~1";
-        else
-            step += unit;
-    }
-    return step;
-}
-
-std::string pointerStep(std::size_t index)
-{
-    return '/' + std::to_string(index);
 }
 
 /// How messages show a JSON pointer. That of the whole document is empty.

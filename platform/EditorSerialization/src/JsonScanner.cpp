@@ -118,6 +118,18 @@ bool Scanner::number(double & value)
     return result.ec == std::errc() && result.ptr == m_next;
 }
 
+bool Scanner::numberToken(std::string_view & token)
+{
+    if (!this->token())
+        return false;
+    char const * const begin = m_next;
+    double value = 0;
+    if (!number(value))
+        return false;
+    token = {begin, static_cast<std::size_t>(m_next - begin)};
+    return true;
+}
+
 bool Scanner::notFinite(double & value)
 {
     using Limits = std::numeric_limits<double>;
@@ -180,7 +192,7 @@ bool Scanner::escape(unsigned & code)
         code = static_cast<unsigned>(meanings[found - letters]);
         return true;
     }
-    if (!codeUnit(code) || code == 0 || (code >= 0xDC00 && code <= 0xDFFF))
+    if (!codeUnit(code) || (code >= 0xDC00 && code <= 0xDFFF))
         return false;
     if (code < 0xD800 || code > 0xDBFF)
         return true;

@@ -17,7 +17,8 @@ class Scanner
 {
 public:
     explicit Scanner(std::string_view text)
-        : m_next(text.data())
+        : m_begin(text.data())
+        , m_next(text.data())
         , m_end(text.data() + text.size())
     {}
 
@@ -26,11 +27,15 @@ public:
     /// The first byte of the next token; there is one.
     bool token()
     {
+        if (m_next != m_end && static_cast<unsigned char>(*m_next) > ' ')
+            return true;
         while (m_next != m_end && isSpace(*m_next))
-            ++m_next;
+            m_next += startsWith(indentation) ? indentation.size() : 1;
         return m_next != m_end;
     }
     char peek() const { return *m_next; }
+    /// Of what comes next, in bytes.
+    std::size_t offset() const { return static_cast<std::size_t>(m_next - m_begin); }
 
     bool take(char byte)
     {
@@ -102,6 +107,8 @@ public:
     bool null() { return token() && takeExactly("null"); }
     bool integer(std::int64_t & value);
     bool number(double & value);
+    /// The same, as it is written.
+    bool numberToken(std::string_view & token);
     /// A number or a text for one that is not finite.
     bool real(double & value)
     {
@@ -113,6 +120,8 @@ public:
     bool skip();
 
 private:
+    static constexpr std::string_view indentation = "        ";
+
     static bool isSpace(char byte) { return byte == ' ' || byte == '\n' || byte == '\r' || byte == '\t'; }
     bool decode(char const * begin, std::string_view & value, bool & isAscii);
     bool escape(unsigned & code);
@@ -120,6 +129,7 @@ private:
     bool notFinite(double & value);
     bool key() { return string(m_skipped) && take(':'); }
 
+    char const * const m_begin;
     char const * m_next;
     char const * const m_end;
     int m_depth = 0; // arrays and objects that are open

@@ -31,8 +31,8 @@ namespace Serialize::Json {
 /// ```
 ///
 /// Refuses, besides whatever is wrong: duplicate keys of the objects that it reads, references and objects that carry a
-/// number, a meta object that is not the first key or says more than the class, classes without a layout, the character
-/// U+0000, texts that are no Unicode, and a byte order mark. After a refusal every function does nothing and returns
+/// number, a meta object that is not the first key or says more than the class, classes without a layout, texts
+/// that are no Unicode, and a byte order mark. After a refusal every function does nothing and returns
 /// false, and what has been read is incomplete.
 class EDITORSERIALIZATION_EXPORT TextReader
 {
