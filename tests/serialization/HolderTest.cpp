@@ -99,8 +99,10 @@ std::string deepJson(int depth)
 std::string deepBinary(int depth)
 {
     // A holder ends in the number of its effects (8 bytes) and their version (4 bytes), so a further level goes behind
-    // all others. What its bytes are follows from the last two levels: the numbers of its objects go on in steps.
-    std::string bytes = Archive::toBinary(*chain(depth - 1));
+    // all others. What its bytes are follows from the last two levels: the numbers of its objects go on in steps. The
+    // header, whose checksum would be another one, is left out.
+    constexpr std::size_t header = 20;
+    std::string bytes = Archive::toBinary(*chain(depth - 1)).substr(header);
     std::size_t const level = Archive::toBinary(*chain(3)).size() - Archive::toBinary(*chain(2)).size();
     std::size_t const count = bytes.size() - 12;
     bytes[count] = 1;

@@ -1,49 +1,16 @@
 #include <EditorModel/EffectArchive.h>
 
-#include <streambuf>
-
-#include <EditorSerialization/BinaryArchive.h>
 #include <EditorSerialization/JsonArchive.h>
 #include <EditorSerialization/JsonText.h>
 #include <EditorSerialization/Layout.h>
 
 #include <nlohmann/json.hpp>
 
+#include "BinaryForm.h"
+
 namespace Effect::Archive {
 
 namespace {
-
-/// Reads from memory that stays where it is.
-class MemoryReader : public std::streambuf
-{
-public:
-    explicit MemoryReader(std::string_view bytes)
-    {
-        char * const start = const_cast<char *>(bytes.data());
-        setg(start, start, start + bytes.size());
-    }
-    std::size_t offset() const { return static_cast<std::size_t>(gptr() - eback()); }
-};
-
-/// Appends to a string.
-class StringWriter : public std::streambuf
-{
-public:
-    std::string bytes;
-
-private:
-    std::streamsize xsputn(char const * data, std::streamsize count) override
-    {
-        bytes.append(data, static_cast<std::size_t>(count));
-        return count;
-    }
-    int_type overflow(int_type unit) override
-    {
-        if (!traits_type::eq_int_type(unit, traits_type::eof()))
-            bytes.push_back(traits_type::to_char_type(unit));
-        return traits_type::not_eof(unit);
-    }
-};
 
 /// `dynamic_cast` for an object that has been read by its layout: every effect's ends in the base's.
 Object * asEffect(Serialize::ISerializable * object)
@@ -90,23 +57,15 @@ std::unique_ptr<Object> fromJson(std::string_view text)
 
 std::string toBinary(Object const & effect)
 {
-    StringWriter writer;
-    Serialize::BinaryOArchive archive(writer);
-    Object const * const pointer = &effect;
-    archive << pointer;
-    return std::move(writer.bytes);
+    return writeBinaryForm(effect);
 }
 
 std::unique_ptr<Object> fromBinary(std::string_view bytes)
 {
-    MemoryReader reader(bytes);
-    Serialize::BinaryIArchive archive(reader);
-    std::unique_ptr<Object> effect;
-    archive >> effect;
-    if (reader.offset() != bytes.size())
-        throw Serialize::ArchiveError(Serialize::ArchiveError::other_exception,
-            "the archive goes on after the effect, at byte " + std::to_string(reader.offset()));
-    return notNull(std::move(effect));
+    BinaryRead read = readBinaryForm(bytes, false);
+    if (read.error)
+        throw *read.error;
+    return std::move(read.effect);
 }
 
 } // namespace Effect::Archive

@@ -192,6 +192,8 @@ void BinaryIArchive::load_object(void * object, boost::archive::detail::basic_is
 
 BinaryIArchive::Loaded BinaryIArchive::loadPointed()
 {
+    if (m_failure)
+        throw *m_failure;
     std::int16_t id = 0;
     m_bytes.read(id);
     if (id == nullClass)
@@ -229,7 +231,13 @@ BinaryIArchive::Loaded BinaryIArchive::loadPointed()
         m_bytes.fail("unregistered class - \"" + std::string(type->name) + "\" cannot be made by name",
             ArchiveError::unregistered_class);
     DepthGuard const guard(m_depth, [this](std::string const & problem) { m_bytes.fail(problem); });
-    type->serializer->load_object_data(*this, dynamic_cast<void *>(loaded.object.get()), type->version);
+    try {
+        type->serializer->load_object_data(*this, dynamic_cast<void *>(loaded.object.get()), type->version);
+    } catch (ArchiveError const & error) {
+        if (!m_keepsWhatIsRead)
+            throw;
+        m_failure.emplace(error);
+    }
     if (type->tracked)
         m_objects[place] = loaded.object.get();
     return loaded;

@@ -152,6 +152,11 @@ public:
     explicit BinaryIArchive(std::istream & stream, unsigned flags = 0);
     ~BinaryIArchive() override;
 
+    /// From here on, an error in what a pointer leads to does not end the read: the object is kept as far as it was read,
+    /// those that own it as well, and nothing more is read. `failure` then says what was wrong.
+    void keepWhatIsRead() { m_keepsWhatIsRead = true; }
+    std::optional<ArchiveError> const & failure() const { return m_failure; }
+
     /// @{
     /// One of the framework's entry points, taken over: nobody else calls it.
     void register_basic_serializer(boost::archive::detail::basic_iserializer const & serializer);
@@ -200,7 +205,18 @@ private:
         elements.clear();
         // Never reserved: the count is believed only as far as elements follow.
         for (std::uint64_t left = count; left > 0; --left)
+            loadElement(elements);
+    }
+    template <class T> void loadElement(std::deque<T> & elements)
+    {
+        try {
             load_override(elements.emplace_back());
+        } catch (...) {
+            // An empty slot is not what was written.
+            if (Detail::IsOwningPointer<T>::value && m_keepsWhatIsRead)
+                elements.pop_back();
+            throw;
+        }
     }
     void load_override(boost::archive::class_name_type & name);
 
@@ -227,6 +243,8 @@ private:
     /// By number; null for what was read by value or only in part, which nothing may refer to.
     std::vector<ISerializable *> m_objects;
     int m_depth = 0;
+    bool m_keepsWhatIsRead = false;
+    std::optional<ArchiveError> m_failure;
 };
 
 } // namespace Serialize
