@@ -11,6 +11,7 @@
 #include <EditorModel/EffectArchive.h>
 #include <EditorSerialization/JsonArchive.h>
 #include <EditorUtil/ItemFile.h>
+#include <FileSystem/FileSystem.h>
 
 #include "Command.h"
 #include "Documents.h"
@@ -20,7 +21,6 @@
 
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 
 namespace Host {
 
@@ -37,9 +37,9 @@ constexpr qint64 largestFile = qint64(256) << 20;   // bytes
 constexpr std::string_view binaryStart = "EEAR";
 constexpr char const * effectKey = "effect";
 
-[[noreturn]] void fail(std::string const & path, QFileDevice const & file)
+[[noreturn]] void fail(std::string const & path, QString const & reason)
 {
-    throw Failure(path + ": " + file.errorString().toStdString());
+    throw Failure(path + ": " + reason.toStdString());
 }
 
 /// An archive document names its class at the top, an item holds one.
@@ -118,11 +118,11 @@ std::string readFile(std::string const & path)
 {
     QFile file(fileName(path));
     if (!(path == standardStream ? file.open(stdin, QIODevice::ReadOnly) : file.open(QIODevice::ReadOnly)))
-        fail(path, file);
+        fail(path, file.errorString());
     // A device may be endless and a pipe does not tell its size, so the limit is found out by reading.
     QByteArray const bytes = file.read(largestFile + 1);
     if (file.error() != QFileDevice::NoError)
-        fail(path, file);
+        fail(path, file.errorString());
     if (bytes.size() > largestFile)
         throw Failure(path + ": larger than 256 MiB");
     return bytes.toStdString();
@@ -137,14 +137,15 @@ void writeFile(std::string const & path, std::string_view bytes)
     // A pipe or a device is written to: only a file can be replaced.
     std::error_code ignored;
     auto const kind = fs::status(path, ignored).type();
-    bool const isReplaced = kind == fs::file_type::regular || kind == fs::file_type::not_found;
-    QSaveFile replacement(fileName(path));
-    QFile target(fileName(path));
-    QFileDevice & file = isReplaced ? static_cast<QFileDevice &>(replacement) : target;
+    if (kind == fs::file_type::regular || kind == fs::file_type::not_found) {
+        if (QString error; !FS::saveFile(fileName(path), bytes, &error))
+            fail(path, error);
+        return;
+    }
+    QFile file(fileName(path));
     auto const size = static_cast<qint64>(bytes.size());
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes.data(), size) != size ||
-        !(isReplaced ? replacement.commit() : target.flush()))
-        fail(path, file);
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes.data(), size) != size || !file.flush())
+        fail(path, file.errorString());
 }
 
 Archived readArchived(std::string const & path)

@@ -206,6 +206,23 @@ TEST_F(FilesTest, BadFilesAreOneLineAndLoseNothing)
     EXPECT_THAT(effectctl({"show", "--class", "Effect::None"}).errors, HasSubstr("there is no class"));
 }
 
+TEST_F(FilesTest, AFullDiskLeavesTheOldFile)
+{
+    Effect::Lut lut;
+    lut.resourcePath = QString(2000, 'n');
+    write("lut.json", Effect::Archive::toJson(lut));
+    for (char const * const name : {"old.json", "old.bin"}) {
+        write(name, "old");
+        // No file grows beyond 1 KiB, and the signal that would end the program is ignored.
+        auto const run =
+            shell("cd " + folder.path() + "; trap '' XFSZ; ulimit -f 1; $effectctl archive lut.json " + name);
+        EXPECT_EQ(run.status, 1);
+        EXPECT_EQ(run.errors, std::string("effectctl: ") + name + ": File too large\n");
+        EXPECT_EQ(read(name), "old");
+    }
+    EXPECT_THAT(QDir(folder.path()).entryList(QDir::Files), testing::ElementsAre("lut.json", "old.bin", "old.json"));
+}
+
 TEST_F(FilesTest, StandardStreamsStandWhereFilesDo)
 {
     std::string const text = Effect::Archive::toJson(Effect::Opacity());

@@ -20,7 +20,6 @@
 #include <nlohmann/json.hpp>
 
 #include <QDir>
-#include <QSaveFile>
 
 namespace EditorCollection {
 
@@ -250,13 +249,12 @@ void storeItem(
     json & names = document[categoriesKey] = json::array();
     for (QString const & category : categories)
         names.push_back(category.toStdString());
-    QByteArray const text = QByteArray::fromStdString(document.dump(2) + '\n');
+    std::string const text = document.dump(2) + '\n';
 
     if (!QDir().mkpath(place))
         fail(QStringLiteral("the folder cannot be made"));
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size() || !file.commit())
-        fail(file.errorString());
+    if (QString error; !FS::saveFile(path, text, &error))
+        fail(error);
 }
 
 } // namespace EditorCollection

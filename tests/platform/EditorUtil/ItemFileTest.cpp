@@ -6,6 +6,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include "../../support/FileSizeLimit.h"
 #include "../EditorModel/TestEffect.h"
 #include "ItemFolder.h"
 
@@ -224,6 +225,22 @@ TEST(StoreItem, ReplacesAFileWhole)
     folder.write("item.effect.json", "an older and longer text " + std::string(10'000, 'x'));
     storeItem(folder.path(), "item", effectWithResource(""));
     EXPECT_EQ(readItem(folder.nativePath(), "item.effect.json")->payload().tag, "stored");
+    EXPECT_THAT(QDir(folder.path()).entryList(QDir::Files), ElementsAre("item.effect.json"));
+}
+
+TEST(StoreItem, AFullDiskLeavesTheOldItem)
+{
+    ItemFolder const folder;
+    storeItem(folder.path(), "item", effectWithResource("/old.cube"));
+    std::string problem;
+    try {
+        Testing::FileSizeLimit const limit(1024);
+        storeItem(folder.path(), "item", effectWithResource('/' + QString(2000, 'n')));
+    } catch (std::runtime_error const & error) {
+        problem = error.what();
+    }
+    EXPECT_EQ(problem, folder.file("item.effect.json: File too large"));
+    EXPECT_EQ(readItem(folder.nativePath(), "item.effect.json")->payload().resourcePath, "/old.cube");
     EXPECT_THAT(QDir(folder.path()).entryList(QDir::Files), ElementsAre("item.effect.json"));
 }
 
