@@ -39,6 +39,7 @@ foreach(group IN ITEMS exported hidden)
     endif()
   endforeach()
 endforeach()
+configure_file(effects/Version.h.in "${EDITOREFFECTS_GENERATED}/effects/Version.h" @ONLY)
 foreach(file IN ITEMS Effects.h ExportedFamilies.def Families.def HiddenFamilies.def HiddenFamilies.h)
   configure_file(cmake/families/${file}.in "${EDITOREFFECTS_GENERATED}/effects/${file}" @ONLY)
 endforeach()
@@ -73,6 +74,7 @@ target_sources(EditorEffectsObjects PRIVATE effects/Identity.cpp)
 add_families(${hidden_families})
 target_sources(EditorEffectsObjects PRIVATE
   effects/PrivateIdentity.cpp
+  effects/Version.cpp
   serialization/Schema.cpp
   collection/Effects/ContentProvider.cpp
   collection/Effects/EffectSettings.cpp

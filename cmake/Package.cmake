@@ -49,6 +49,7 @@ install(TARGETS EditorEffects EXPORT EditorEffectsTargets
 list(TRANSFORM exported_families REPLACE "(.+)" "effects/\\1.def" OUTPUT_VARIABLE family_rows)
 install(FILES
   "${EDITOREFFECTS_GENERATED}/effects/Effects.h" "${EDITOREFFECTS_GENERATED}/effects/ExportedFamilies.def"
+  "${EDITOREFFECTS_GENERATED}/effects/Version.h"
   DESTINATION "${EDITOR_INCLUDEDIR}/effects" COMPONENT development)
 foreach(header IN LISTS EDITOREFFECTS_PUBLIC_HEADERS family_rows)
   cmake_path(GET header PARENT_PATH folder)

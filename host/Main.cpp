@@ -5,6 +5,8 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+#include <effects/Version.h>
+
 #include "Command.h"
 #include "FileNames.h"
 #include "Messages.h"
@@ -86,7 +88,7 @@ int main(int argc, char ** argv)
 
     CLI::App program("Reads, writes, converts and lists the effects of a video editor.", "effectctl");
     program.require_subcommand(1);
-    program.set_version_flag("--version", EDITOREFFECTS_VERSION);
+    program.set_version_flag("--version", EDITOREFFECTS_VERSION_STRING);
     Host::addList(program);
     Host::addDescribe(program);
     Host::addSchema(program);

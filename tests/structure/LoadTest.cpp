@@ -1,11 +1,14 @@
 // This program has nothing of the library, neither linked nor defined, and nothing of what the library links: it loads
 // it as a plug-in host would.
 
+#include <filesystem>
 #include <string>
 #include <vector>
 
 #include <dlfcn.h>
 #include <link.h>
+
+#include <effects/Version.h>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -13,6 +16,7 @@
 namespace {
 
 using testing::Contains;
+using testing::EndsWith;
 using testing::HasSubstr;
 using testing::Not;
 
@@ -43,6 +47,33 @@ TEST(Load, LibraryLoadsUnloadsAndLoadsAgainWithEveryReferenceResolved)
         // It has gone, and is not merely closed.
         EXPECT_THAT(loadedLibraries(), Not(Contains(HasSubstr("libEditorEffects.so")))) << "in round " << round;
     }
+}
+
+TEST(Load, LibrarySaysItsVersionAsItsHeadersAndItsNameDo)
+{
+    void * const library = dlopen(EDITOREFFECTS_LIBRARY, RTLD_NOW | RTLD_LOCAL);
+    ASSERT_NE(library, nullptr) << dlerror();
+    auto const version = reinterpret_cast<int (*)()>(dlsym(library, "_ZN6Effect7versionEv"));
+    auto const versionString = reinterpret_cast<char const * (*)()>(dlsym(library, "_ZN6Effect13versionStringEv"));
+    ASSERT_NE(version, nullptr);
+    ASSERT_NE(versionString, nullptr);
+    EXPECT_EQ(version(), EDITOREFFECTS_VERSION);
+    EXPECT_STREQ(versionString(), EDITOREFFECTS_VERSION_STRING);
+    ASSERT_EQ(dlclose(library), 0) << dlerror();
+
+    EXPECT_EQ(std::to_string(EDITOREFFECTS_VERSION_MAJOR) + '.' + std::to_string(EDITOREFFECTS_VERSION_MINOR) + '.' +
+                  std::to_string(EDITOREFFECTS_VERSION_PATCH),
+        EDITOREFFECTS_VERSION_STRING);
+    // The library's file is named libEditorEffects.so.VERSION, whichever link leads to it.
+    EXPECT_THAT(std::filesystem::canonical(EDITOREFFECTS_LIBRARY).string(),
+        EndsWith("libEditorEffects.so." EDITOREFFECTS_VERSION_STRING));
+}
+
+TEST(Version, NumbersCompareAsVersionsDo)
+{
+    EXPECT_EQ(EDITOREFFECTS_MAKE_VERSION(12, 3, 45), 12'003'045);
+    EXPECT_LT(EDITOREFFECTS_MAKE_VERSION(1, 9, 999), EDITOREFFECTS_MAKE_VERSION(1, 10, 0));
+    EXPECT_LT(EDITOREFFECTS_MAKE_VERSION(1, 999, 999), EDITOREFFECTS_MAKE_VERSION(2, 0, 0));
 }
 
 TEST(Load, PluginThatUsesTheLibraryFindsEveryEffectEachTime)

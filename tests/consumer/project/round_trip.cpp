@@ -7,8 +7,17 @@
 
 #include <EditorModel/EffectArchive.h>
 
+#if EDITOREFFECTS_VERSION < EDITOREFFECTS_MAKE_VERSION(1, 0, 0)
+#error "the headers have no version"
+#endif
+
 int main()
 {
+    if (Effect::version() != EDITOREFFECTS_VERSION) {
+        std::cerr << "the headers are of " EDITOREFFECTS_VERSION_STRING ", the library of " << Effect::versionString()
+                  << '\n';
+        return 1;
+    }
     Effect::Crop crop;
     crop.intensity = 0.5;
     std::string const archive = Effect::Archive::toJson(crop);
