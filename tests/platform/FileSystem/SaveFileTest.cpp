@@ -90,7 +90,7 @@ TEST_F(SaveFileTest, AFullDiskLeavesTheOldFile)
 {
     ASSERT_TRUE(FS::saveFile(path(), "old"));
     // A part of the first two fits; all of the last one would, but for one byte.
-    for (std::size_t const size : {100'000, 5'000, 4'097}) {
+    for (std::size_t const size : {100'000u, 5'000u, 4'097u}) {
         QString error;
         Testing::FileSizeLimit const limit(4096);
         EXPECT_FALSE(FS::saveFile(path(), std::string(size, 'x'), &error)) << size;
