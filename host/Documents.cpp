@@ -21,7 +21,8 @@ Class const & classNamed(std::string const & name)
     for (Class const * const info : Effect::Schema::classes())
         names.push_back(info->name);
     bool const hasNamespace = name.find("::") != std::string::npos;
-    throw Failure("there is no class \"" + name + "\"" + Serialize::didYouMean((hasNamespace ? "" : "Effect::") + name, names));
+    throw Failure(
+        "there is no class \"" + name + "\"" + Serialize::didYouMean((hasNamespace ? "" : "Effect::") + name, names));
 }
 
 std::vector<Class const *> classesNamed(std::vector<std::string> const & names)

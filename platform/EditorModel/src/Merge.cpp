@@ -61,8 +61,8 @@ bool isReference(ordered_json const & tree)
     return tree.contains("$meta") && tree["$meta"].contains("ref");
 }
 
-/// Between two elements that stay, those that were changed keep what is unknown in them as far as their order tells
-/// which is which.
+/// Where as many elements as before follow one that has not changed, they are the same ones, and keep what is unknown
+/// in them.
 void mergeLists(ordered_json & tree, json const & before, json const & after)
 {
     ordered_json merged = ordered_json::array();

@@ -158,8 +158,8 @@ TEST_F(MatricesAndLists, SideBySideTakesSharesBeforeLengths)
 TEST_F(MatricesAndLists, TransposeAtLargeAngles)
 {
     // For the last three the angle times pi, divided by 180, is another double than the angle times (pi / 180) or
-    // divided by 180 first; so far from 0, that moves the eighth place of sine and cosine. The sine and the cosine of
-    // the double that is to be had are told here to twenty places.
+    // divided by 180 first; so far from 0, that moves the eighth place of sine and cosine. The expected sine and cosine
+    // are those of the right double, to twenty places.
     struct
     {
         int angle;

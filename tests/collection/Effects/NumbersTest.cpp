@@ -2,7 +2,7 @@
 // one rounding differs from another.
 //
 // These tests run twice, the second time with settings that start with other values than zero (OtherEngine.h), which
-// tells a setting that is left alone from one that is set to 0.
+// distinguishes a setting that is left alone from one that is set to 0.
 
 #include <cmath>
 #include <cstdint>

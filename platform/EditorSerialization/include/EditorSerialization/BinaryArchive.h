@@ -152,8 +152,8 @@ public:
     explicit BinaryIArchive(std::istream & stream, unsigned flags = 0);
     ~BinaryIArchive() override;
 
-    /// From here on, an error in what a pointer leads to does not end the read: the object is kept as far as it was read,
-    /// those that own it as well, and nothing more is read. `failure` then says what was wrong.
+    /// From here on, an error in an object behind a pointer does not end the read: the object and its owners are kept
+    /// as far as they were read, and nothing more is read. `failure` then says what was wrong.
     void keepWhatIsRead() { m_keepsWhatIsRead = true; }
     std::optional<ArchiveError> const & failure() const { return m_failure; }
 
