@@ -10,6 +10,7 @@
 #include <string_view>
 
 #include <EditorModel/EffectArchive.h>
+#include <EditorModel/EffectDocument.h>
 #include <EditorSerialization/StreamSerializer.h>
 #include <effects/Effects.h>
 
@@ -37,11 +38,26 @@ template <class Read> void tryTo(Read const & read)
         check(*effect);
 }
 
+/// Documents take any bytes, and one that has not been changed is the file that was read.
+void checkDocument(std::string_view bytes)
+{
+    using Effect::Archive::Document;
+    Document const document = Document::read(bytes);
+    if (document.effect() && (Effect::Archive::isBinary(bytes) ? document.toBinary() : document.toJson()) != bytes)
+        throw std::logic_error("a document that was not changed is another file than before");
+    Document const salvaged = Document::salvage(bytes);
+    if (salvaged.effect())
+        check(*salvaged.effect());
+    if (document.effect() && !salvaged.effect())
+        throw std::logic_error("less can be salvaged than read");
+}
+
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const * data, std::size_t size)
 {
     std::string_view const bytes(reinterpret_cast<char const *>(data), size);
+    checkDocument(bytes);
     tryTo([&] { return Effect::Archive::fromBinary(bytes); });
     tryTo([&] { return Effect::Archive::fromJson(bytes); });
     tryTo([&] {

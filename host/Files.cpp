@@ -34,7 +34,6 @@ namespace {
 constexpr char const * standardStream = "-";
 constexpr char const * trackSuffix = ".track.json"; ///< motion tracks lie beside effects and are none
 constexpr qint64 largestFile = qint64(256) << 20;   // bytes
-constexpr std::string_view binaryStart = "EEAR";
 constexpr char const * effectKey = "effect";
 
 [[noreturn]] void fail(std::string const & path, QString const & reason)
@@ -47,11 +46,6 @@ bool isItem(json const & document)
 {
     return document.is_object() && document.contains(effectKey) &&
            !document.contains(Serialize::Json::MetaDetails::s_meta);
-}
-
-bool isBinary(std::string_view bytes)
-{
-    return bytes.substr(0, binaryStart.size()) == binaryStart;
 }
 
 /// Reads a file with `read`, which is given its bytes. What it throws becomes a `Failure` that names the file.
@@ -151,7 +145,7 @@ void writeFile(std::string const & path, std::string_view bytes)
 Archived readArchived(std::string const & path)
 {
     return readNamed(path, [&path](std::string const & bytes) -> Archived {
-        if (isBinary(bytes))
+        if (Effect::Archive::isBinary(bytes))
             return {Effect::Archive::fromBinary(bytes), {}};
         json item = Serialize::Json::parse(bytes);
         if (!isItem(item))
@@ -166,7 +160,7 @@ Archived readArchived(std::string const & path)
 std::unique_ptr<Effect::Object> readEffect(std::string const & path)
 {
     return readNamed(path, [&path](std::string const & bytes) {
-        if (isBinary(bytes))
+        if (Effect::Archive::isBinary(bytes))
             return Effect::Archive::fromBinary(bytes);
         if (!isItem(Serialize::Json::parse(bytes)))
             return Effect::Archive::fromJson(bytes);

@@ -25,13 +25,14 @@ _effectctl()
     local options=--help
     case $command in
         '')
-            _effectctl_words "--help --version list describe schema show archive convert catalogue lut tool"
+            _effectctl_words "--help --version list describe schema show archive salvage convert catalogue lut tool"
             return ;;
         list) options+=' --json --effects' ;;
         describe) options+=' --json' ;;
         schema) options+=' --items --closed' ;;
         show) options+=' --class --json' ;;
         archive) options+=' --format' ;;
+        salvage) options+=' --json' ;;
         convert) options+=' --batch --class --set --resource --track --json' ;;
         catalogue) options+=' --stock --user --json --convert' ;;
         lut) options+=' --json' ;;

@@ -206,6 +206,64 @@ TEST_F(FilesTest, BadFilesAreOneLineAndLoseNothing)
     EXPECT_THAT(effectctl({"show", "--class", "Effect::None"}).errors, HasSubstr("there is no class"));
 }
 
+TEST_F(FilesTest, SalvageSavesWhatCanBeRead)
+{
+    Effect::EffectsHolder holder;
+    for (double const opacity : {0.25, 0.5, 0.75}) {
+        auto effect = std::make_unique<Effect::Opacity>();
+        effect->opacity = opacity;
+        holder.addEffect(std::move(effect));
+    }
+    std::string const whole = Effect::Archive::toJson(holder);
+    std::string const cut = whole.substr(0, whole.rfind("Effect::Object"));
+    auto const run = effectctl({"salvage", write("cut.json", cut), path("saved.json")});
+    EXPECT_EQ(run.status, 0) << run.errors;
+    EXPECT_THAT(run.output, HasSubstr("cut.json:1:" + std::to_string(cut.size() + 1) + ": error: this is no JSON"));
+    json const saved = json::parse(read("saved.json"));
+    EXPECT_EQ(saved["effects"].size(), 3U);
+    EXPECT_EQ(saved["effects"][1], json::parse(whole)["effects"][1]);
+
+    std::string const bytes = Effect::Archive::toBinary(holder);
+    QString const half = write("cut.bin", bytes.substr(0, bytes.size() - 9));
+    json const findings = json::parse(effectctl({"salvage", "--json", half, path("saved.bin")}).output);
+    EXPECT_EQ(findings["file"], half.toStdString());
+    EXPECT_EQ(findings["saved"], true);
+    ASSERT_EQ(findings["findings"].size(), 1U);
+    EXPECT_EQ(findings["findings"][0]["code"], "truncated");
+    EXPECT_EQ(findings["findings"][0]["severity"], "error");
+    for (char const * const key : {"pointer", "line", "column", "suggestion"})
+        EXPECT_TRUE(findings["findings"][0].at(key).is_null()) << key;
+    auto const back = Effect::Archive::fromBinary(read("saved.bin"));
+    auto const & effects = dynamic_cast<Effect::EffectsHolder const &>(*back).effects;
+    ASSERT_GE(effects.size(), 2U);
+    EXPECT_EQ(dynamic_cast<Effect::Opacity const &>(*effects[1]).opacity, 0.5);
+}
+
+TEST_F(FilesTest, SalvageKeepsItemsAndWhatIsUnknown)
+{
+    std::string const item =
+        R"({"categories":["category_own"],"rating":5,"effect":{"$meta":{"class":"Effect::Opacity"},)"
+        R"("opacity":"half","note":1}})";
+    auto const run = effectctl({"salvage", write("item.effect.json", item), path("saved.effect.json")});
+    EXPECT_EQ(run.status, 0) << run.errors;
+    EXPECT_THAT(run.output, HasSubstr("error: a number is expected, found string, at /effect/opacity\n"));
+    EXPECT_THAT(run.output, HasSubstr("warning: Effect::Opacity has no key \"note\", at /effect/note\n"));
+    json expected = json::parse(item);
+    expected["effect"].erase("opacity");
+    EXPECT_EQ(json::parse(read("saved.effect.json")), expected);
+}
+
+TEST_F(FilesTest, SalvageOfNothingWritesNothing)
+{
+    write("old.json", "old");
+    auto const run = effectctl({"salvage", write("none.json", "nothing"), path("old.json")});
+    EXPECT_EQ(run.status, 1);
+    EXPECT_THAT(run.errors, HasSubstr("none.json: nothing could be saved"));
+    EXPECT_EQ(read("old.json"), "old");
+    EXPECT_EQ(effectctl({"salvage", path("gone.json"), path("old.json")}).status, 1);
+    EXPECT_EQ(effectctl({"salvage", path("none.json")}).status, 2);
+}
+
 TEST_F(FilesTest, AFullDiskLeavesTheOldFile)
 {
     Effect::Lut lut;

@@ -227,6 +227,24 @@ TEST(Document, ReferencesAreReadAndKept)
     EXPECT_EQ(dynamic_cast<Effect::Opacity const &>(*holder.effects[1]).opacity, 0.25);
 }
 
+TEST(Document, AnItemKeepsWhatIsAroundItsEffect)
+{
+    std::string const text =
+        R"({"rating":5,"effect":{"$meta":{"class":"Effect::EffectsHolder"},)"
+        R"("Effect::EffectDescriptor":{"type":0},"effects":[{"$meta":{"class":"Effect::Hologram"}},)"
+        R"({"$meta":{"class":"Effect::Opacity"},"opacity":0.5,"easing":1}]},"categories":["a"]})";
+    Document document = Document::read(text);
+    EXPECT_THAT(summary(document),
+        ElementsAre("unknown-class /effect/effects/0/$meta/class", "unknown-key /effect/effects/1/easing"));
+    EXPECT_EQ(document.toJson(), text);
+    ASSERT_NE(document.effect(), nullptr);
+    opacityAt(holderOf(document), 1).opacity = 0.25;
+    ordered_json expected = ordered_json::parse(text);
+    expected["effect"]["effects"][1]["opacity"] = 0.25;
+    EXPECT_EQ(document.toJson(), expected.dump());
+    EXPECT_THROW(document.toBinary(), Serialize::ArchiveError);
+}
+
 TEST(Document, BinaryBytesStayUnlessTheEffectChanges)
 {
     Effect::Opacity effect;

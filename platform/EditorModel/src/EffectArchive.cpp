@@ -55,6 +55,11 @@ std::unique_ptr<Object> fromJson(std::string_view text)
     return notNull(std::move(effect));
 }
 
+bool isBinary(std::string_view bytes)
+{
+    return isBinaryForm(bytes);
+}
+
 std::string toBinary(Object const & effect)
 {
     return writeBinaryForm(effect);

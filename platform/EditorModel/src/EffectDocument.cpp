@@ -33,8 +33,8 @@ using Serialize::Json::pointerStep;
 
 constexpr char const * metaKey = Serialize::Json::MetaDetails::s_meta;
 constexpr char const * classKey = Serialize::Json::MetaDetails::s_class_name;
-constexpr char const * idKey = Serialize::Json::MetaDetails::s_id;
 constexpr char const * referenceKey = Serialize::Json::MetaDetails::s_reference;
+constexpr char const * itemEffectKey = "effect";
 
 /// The value of a member; null when there is none.
 template <class Value> Value * member(Value & value, std::string_view key)
@@ -314,9 +314,11 @@ struct Document::State
     bool foundUnknown = false;             // something that no effect holds
     bool isRepaired = false;               // what is written is not what was read
     ordered_json tree;                     // of the text, without what could not be read
+    std::string effectPointer;             // JSON pointer of the effect in the text: an item of the catalogue holds it
     std::vector<std::string> unknownSlots; // JSON pointers of effects that are empty slots for the program
     json before;                           // document of the effect as it was read
 
+    ordered_json & effectTree() { return tree[ordered_json::json_pointer(effectPointer)]; }
     void readJson(bool isSalvage);
     void readBinary(bool isSalvage);
     bool isChanged() const { return effect && documentOf(*effect) != before; }
@@ -348,16 +350,18 @@ void Document::State::readJson(bool isSalvage)
         bool const isCut = *text.damage == bytes.size() && !bytes.empty();
         fail(tree.is_null() ? "no-json" : isCut ? "truncated" : "damaged", message, text.damage);
     }
+    if (tree.is_object() && !member(tree, metaKey) && member(tree, itemEffectKey))
+        effectPointer = pointerStep(itemEffectKey);
     if (!text.damage || !tree.is_null()) {
         Inspector inspector(findings, isSalvage);
-        inspector.pointed(tree, {}, false);
+        inspector.pointed(effectTree(), effectPointer, false);
         foundUnknown = inspector.foundUnknown();
         unknownSlots = inspector.unknownSlots();
         if (isSalvage) {
             // Elements that were taken out have moved the others.
             std::vector<Finding> known;
             Inspector repaired(known, false);
-            repaired.pointed(tree, {}, false);
+            repaired.pointed(effectTree(), effectPointer, false);
             unknownSlots = repaired.unknownSlots();
         }
     }
@@ -371,12 +375,14 @@ void Document::State::readJson(bool isSalvage)
     }
     bool const isReadable = !hasError(findings) || isSalvage;
     isRepaired = isSalvage && hasError(findings);
-    if (isReadable && !tree.is_null()) {
+    if (isReadable && !effectTree().is_null()) {
         try {
             json document = tree;
             for (std::string const & slot : unknownSlots)
                 document[json::json_pointer(slot)] = nullptr;
-            Serialize::Json::iarchive archive(document);
+            // References in an item are those of its effect's own document.
+            json const & archived = document[json::json_pointer(effectPointer)];
+            Serialize::Json::iarchive archive(archived);
             archive >> effect;
         } catch (std::exception const & error) {
             effect.reset();
@@ -463,7 +469,7 @@ std::string Document::toJson() const
         return state.bytes;
     ordered_json tree = state.tree;
     if (state.effect)
-        merge(tree, state.before, documentOf(*state.effect));
+        merge(tree[ordered_json::json_pointer(state.effectPointer)], state.before, documentOf(*state.effect));
     int const indentation = indentationOf(state.bytes);
     return tree.dump(indentation) + (state.bytes.back() == '\n' ? "\n" : "");
 }
@@ -475,6 +481,8 @@ std::string Document::toBinary() const
         return state.bytes;
     if (!state.effect)
         throw ArchiveError(ArchiveError::other_exception, "the archive holds no effect that can be read");
+    if (!state.effectPointer.empty())
+        throw ArchiveError(ArchiveError::other_exception, "the binary form has no place for the categories of an item");
     if (state.foundUnknown) {
         auto const unknown = std::find_if(state.findings.begin(), state.findings.end(), [](Finding const & finding) {
             return finding.severity == Severity::Warning && finding.code != "duplicate-key";

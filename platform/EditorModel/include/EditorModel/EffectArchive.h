@@ -17,10 +17,15 @@ EDITORMODEL_EXPORT std::string toJson(Object const & effect);
 /// Throws an exception that says what was wrong and where in the document. Never null.
 EDITORMODEL_EXPORT std::unique_ptr<Object> fromJson(std::string_view document);
 
-/// A binary archive. Throws `boost::archive::archive_exception` for a class that is not registered.
+/// Whether the bytes begin like a binary archive; otherwise they can only be JSON.
+EDITORMODEL_EXPORT bool isBinary(std::string_view bytes);
+
+/// A binary archive behind a header with its length and its checksum. Throws `boost::archive::archive_exception` for a
+/// class that is not registered.
 EDITORMODEL_EXPORT std::string toBinary(Object const & effect);
 
-/// Throws an exception that says what was wrong and at which byte. Never null.
+/// Reads an archive with or without the header. Throws an exception that says what was wrong and at which byte. Never
+/// null.
 EDITORMODEL_EXPORT std::unique_ptr<Object> fromBinary(std::string_view bytes);
 
 } // namespace Effect::Archive

@@ -37,7 +37,7 @@ struct Finding
     std::string suggestion;             ///< the known name that is nearest to an unknown one; empty for none
 };
 
-/// The archive of one effect in either form, with all that is in it.
+/// The archive of one effect in either form, or an item of the catalogue, with all that is in it.
 ///
 /// ```cpp
 /// auto document = Effect::Archive::Document::read(bytes);
