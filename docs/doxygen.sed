@@ -5,6 +5,6 @@
 s/^.*\((const )?[A-Za-z]+( const)? ?&&?\)( noexcept)? = default;$//
 s/^( *)([A-Z][A-Za-z]+ \* set[A-Z].*;)$/\1\/** Stores the value and returns this effect, for chaining. *\/ \2/
 s/^( *)(.*operator!=\()/\1\/** The opposite of equal. *\/ \2/
-s/^( *)(static char const \* NameInArchive\(\))/\1\/** The class's archive name. *\/ \2/
+s/^( *)(static (constexpr )?char const \* NameInArchive\(\))/\1\/** The class's archive name. *\/ \2/
 # Doxygen cannot include a file whose name is a macro: the constants of the rows are in docs/reference.md.
 s/^#include <effects\/Rows\.h>$//

@@ -92,7 +92,8 @@ void addSalvage(CLI::App & program)
         ->required()
         ->option_text(" ");
     command->add_flag("--json", options->asJson, "Print the findings as one JSON document");
-    setExamples(*command, "  effectctl salvage broken.json saved.json");
+    setExamples(*command, "  effectctl salvage broken.json saved.json\n"
+                          "  effectctl salvage --json broken.bin saved.bin");
     command->callback([options] { salvage(*options); });
 }
 

@@ -172,8 +172,9 @@ TEST_F(JsonSchema, EveryArchiveAndEveryItemThatThereIsIsValid)
     corpus.addSchema("open", schemaOf(everyClass()));
     corpus.addSchema("closed", schemaOf(everyClass() + QStringList("--closed")));
     for (fs::path const & file : filesBelow(GOLDEN_FOLDER, ".json"))
-        for (char const * const schema : {"open", "closed"})
-            corpus.add({file.filename(), schema, "", json::parse(read(file)), true});
+        if (file.filename().native().compare(0, 7, "Effect.") == 0) // not the items and the output of the tool
+            for (char const * const schema : {"open", "closed"})
+                corpus.add({file.filename(), schema, "", json::parse(read(file)), true});
     EXPECT_GE(corpus.size(), 2U * 2 * 89);
     corpus.addSchema("items", schemaOf({"--items"}));
     corpus.addSchema("closed items", schemaOf({"--items", "--closed"}));

@@ -25,7 +25,7 @@ enum class Severity
 /// What is odd or wrong at one place of a file.
 struct Finding
 {
-    Severity severity = Severity::Error;
+    Severity severity = Severity::Error; ///< how bad it is
     /// For programs: `no-json`, `truncated`, `damaged`, `unknown-class`, `unknown-key`, `misplaced-key`,
     /// `duplicate-key`, `wrong-type`.
     std::string code;
@@ -60,8 +60,11 @@ public:
     /// damage. The findings say what is missing. Writing the document writes what could be had.
     static Document salvage(std::string_view bytes);
 
+    /// @{
+    /// A document that has been moved from can only be destroyed or assigned to.
     Document(Document &&) noexcept;
     Document & operator=(Document &&) noexcept;
+    /// @}
     ~Document();
 
     /// @{

@@ -155,6 +155,7 @@ public:
     /// From here on, an error in an object behind a pointer does not end the read: the object and its owners are kept
     /// as far as they were read, and nothing more is read. `failure` then says what was wrong.
     void keepWhatIsRead() { m_keepsWhatIsRead = true; }
+    /// The error after which nothing more was read; nothing while all is well.
     std::optional<ArchiveError> const & failure() const { return m_failure; }
 
     /// @{
