@@ -295,14 +295,14 @@ template <class Source> struct Tables
 
     static constexpr std::array<std::size_t, keyCount> sort()
     {
-        std::array<std::size_t, keyCount> order{};
+        std::array<std::size_t, keyCount> sorted{};
         for (std::size_t index = 0; index < keyCount; ++index) {
             std::size_t place = index;
-            for (; place > 0 && key(index) < key(order[place - 1]); --place)
-                order[place] = order[place - 1];
-            order[place] = index;
+            for (; place > 0 && key(index) < key(sorted[place - 1]); --place)
+                sorted[place] = sorted[place - 1];
+            sorted[place] = index;
         }
-        return order;
+        return sorted;
     }
     static constexpr auto order = sort();
 
