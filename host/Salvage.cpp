@@ -57,6 +57,8 @@ std::string toLine(std::string const & file, Finding const & finding)
     line += std::string(": ") + nameOf(finding.severity) + ": " + finding.message;
     if (finding.pointer && !finding.pointer->empty())
         line += ", at " + *finding.pointer;
+    if (!finding.suggestion.empty())
+        line += "; did you mean \"" + finding.suggestion + "\"?";
     return line;
 }
 

@@ -243,11 +243,12 @@ TEST_F(FilesTest, SalvageKeepsItemsAndWhatIsUnknown)
 {
     std::string const item =
         R"({"categories":["category_own"],"rating":5,"effect":{"$meta":{"class":"Effect::Opacity"},)"
-        R"("opacity":"half","note":1}})";
+        R"("opacity":"half","opcaity":1}})";
     auto const run = effectctl({"salvage", write("item.effect.json", item), path("saved.effect.json")});
     EXPECT_EQ(run.status, 0) << run.errors;
     EXPECT_THAT(run.output, HasSubstr("error: a number is expected, found string, at /effect/opacity\n"));
-    EXPECT_THAT(run.output, HasSubstr("warning: Effect::Opacity has no key \"note\", at /effect/note\n"));
+    EXPECT_THAT(run.output,
+        HasSubstr("warning: Effect::Opacity has no key \"opcaity\", at /effect/opcaity; did you mean \"opacity\"?\n"));
     json expected = json::parse(item);
     expected["effect"].erase("opacity");
     EXPECT_EQ(json::parse(read("saved.effect.json")), expected);

@@ -285,7 +285,8 @@ constexpr bool needsNoEscape(std::string_view text)
 template <class Source> struct Tables
 {
     static constexpr auto fields = Source::fields();
-    static constexpr std::size_t baseCount = Source::base() ? 1 : 0;
+    // Sanitizers do not take the comparison of an address, `base()`, for a constant.
+    static constexpr std::size_t baseCount = Source::baseName() ? 1 : 0;
     static constexpr std::size_t keyCount = baseCount + fields.size();
 
     static constexpr std::string_view key(std::size_t index)
