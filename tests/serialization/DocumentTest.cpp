@@ -307,6 +307,12 @@ TEST(Document, NothingCanBeHadFromNothing)
         }
 }
 
+TEST(Document, AnEmptyFileHasNothingToWrite)
+{
+    EXPECT_EQ(Document::read("").toJson(), "");
+    EXPECT_EQ(Document::salvage("").toJson(), "null");
+}
+
 std::unique_ptr<Effect::EffectsHolder> hundredEffects()
 {
     auto holder = std::make_unique<Effect::EffectsHolder>();

@@ -471,7 +471,7 @@ std::string Document::toJson() const
     if (state.effect)
         merge(tree[ordered_json::json_pointer(state.effectPointer)], state.before, documentOf(*state.effect));
     int const indentation = indentationOf(state.bytes);
-    return tree.dump(indentation) + (state.bytes.back() == '\n' ? "\n" : "");
+    return tree.dump(indentation) + (!state.bytes.empty() && state.bytes.back() == '\n' ? "\n" : "");
 }
 
 std::string Document::toBinary() const
