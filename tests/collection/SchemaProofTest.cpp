@@ -560,7 +560,7 @@ private:
         resources.write("warm.cube", "LUT_1D_SIZE 2\n0 0 0\n1 1 1\n");
         resources.write("cold.cube", "LUT_1D_SIZE 3\n0 0 0\n0.5 0.5 0.5\n1 1 1\n");
         resources.write("glow.fs", "/*{}*/void main() { gl_FragColor = vec4(1.0); }\n");
-        resources.write("haze.fs", "/*{\"CREDIT\": \"nobody\"}*/void main() { gl_FragColor = vec4(0.5); }\n");
+        resources.write("haze.fs", "/*{\"CREDIT\": \"us\"}*/void main() { gl_FragColor = vec4(0.5); }\n");
         resources.write("haze.vs", "void main() { isf_vertShaderInit(); }\n");
         resources.write("plain.frag", "void main() {}\n");
         Testing::writeImage(resources.path("large.png"), 9, 7);

@@ -124,9 +124,9 @@ TEST(Help, StandsInTheManualPage)
     Words const programs = optionsOf("");
     EXPECT_EQ(matches(section("\n.SH OPTIONS"), "(--[a-z]+)"), programs);
     for (std::string const & command : commands()) {
-        Words told = matches(section("\n.SS " + command), "\n\\.BI? (--[a-z-]+)");
-        told.insert("--help");
-        EXPECT_EQ(told, optionsOf(command)) << command;
+        Words listed = matches(section("\n.SS " + command), "\n\\.BI? (--[a-z-]+)");
+        listed.insert("--help");
+        EXPECT_EQ(listed, optionsOf(command)) << command;
         EXPECT_THAT(section("\n.SH SYNOPSIS"), HasSubstr("\n.B effectctl " + command + '\n'));
     }
 }
@@ -268,11 +268,11 @@ TEST(Completion, ZshKnowsEveryCommandAndOption)
         ASSERT_TRUE(std::regex_search(
             text, branch, std::regex("\n +(?:[a-z]+ \\| )?" + command + "(?: \\| [a-z]+)?\\)([^;]*);;")))
             << command;
-        std::string const told = branch[1];
-        Words options = matches(told, "(--[a-z]+)");
-        EXPECT_THAT(told, HasSubstr("$help"));
+        std::string const listed = branch[1];
+        Words options = matches(listed, "(--[a-z]+)");
+        EXPECT_THAT(listed, HasSubstr("$help"));
         options.insert("--help");
-        if (told.find("$class") != std::string::npos || told.find("$effect") != std::string::npos)
+        if (listed.find("$class") != std::string::npos || listed.find("$effect") != std::string::npos)
             options.insert("--class");
         EXPECT_EQ(options, optionsOf(command)) << command;
     }

@@ -128,13 +128,13 @@ TEST(CollectionHolder, DropsItsOwnLoadsOnly)
         // The name of the collection makes no difference, nor who else has one of that name.
         first.loadItems("/folder", "A", [&](serialize_ptr<IItem> &&) { delivered.emplace_back("first again"); });
         CollectionProvider::itemStorage().loadItems(
-            "/folder", "A", [&](serialize_ptr<IItem> &&) { delivered.emplace_back("nobody's"); });
+            "/folder", "A", [&](serialize_ptr<IItem> &&) { delivered.emplace_back("unowned"); });
         storage.deliverToAll();
-        EXPECT_THAT(delivered, ElementsAre("first", "second", "first again", "nobody's"));
+        EXPECT_THAT(delivered, ElementsAre("first", "second", "first again", "unowned"));
         delivered.clear();
     }
     storage.deliverToAll();
-    EXPECT_THAT(delivered, ElementsAre("first", "first again", "nobody's"));
+    EXPECT_THAT(delivered, ElementsAre("first", "first again", "unowned"));
 }
 
 TEST(CollectionHolder, DropsItsLoadsOnTheStorageThatItUsed)
