@@ -318,12 +318,24 @@ struct Document::State
     std::vector<std::string> unknownSlots; // JSON pointers of effects that are empty slots for the program
     json before;                           // document of the effect as it was read
 
+    static std::unique_ptr<State> make(std::string_view bytes, bool isSalvage);
     ordered_json & effectTree() { return tree[ordered_json::json_pointer(effectPointer)]; }
     void readJson(bool isSalvage);
     void readBinary(bool isSalvage);
     bool isChanged() const { return effect && documentOf(*effect) != before; }
     void fail(char const * code, std::string const & message, std::optional<std::size_t> offset = {});
 };
+
+std::unique_ptr<Document::State> Document::State::make(std::string_view bytes, bool isSalvage)
+{
+    auto state = std::make_unique<State>();
+    state->bytes = bytes;
+    if (isBinaryForm(bytes))
+        state->readBinary(isSalvage);
+    else
+        state->readJson(isSalvage);
+    return state;
+}
 
 void Document::State::fail(char const * code, std::string const & message, std::optional<std::size_t> offset)
 {
@@ -412,24 +424,12 @@ void Document::State::readBinary(bool isSalvage)
 
 Document Document::read(std::string_view bytes)
 {
-    auto state = std::make_unique<State>();
-    state->bytes = bytes;
-    if (isBinaryForm(bytes))
-        state->readBinary(false);
-    else
-        state->readJson(false);
-    return Document(std::move(state));
+    return Document(State::make(bytes, false));
 }
 
 Document Document::salvage(std::string_view bytes)
 {
-    auto state = std::make_unique<State>();
-    state->bytes = bytes;
-    if (isBinaryForm(bytes))
-        state->readBinary(true);
-    else
-        state->readJson(true);
-    return Document(std::move(state));
+    return Document(State::make(bytes, true));
 }
 
 Document::Document(std::unique_ptr<State> state)
