@@ -1,6 +1,6 @@
 #include "Conversion.h"
 
-#include <effects/Effects.h>
+#include <effects/Holder.h>
 
 namespace Host {
 

@@ -10,7 +10,7 @@
 #include <EditorModel/MotionTracking.h>
 #include <EditorModel/Resource.h>
 #include <EditorSerialization/JsonArchive.h>
-#include <effects/Effects.h>
+#include <effects/Holder.h>
 #include <utils/EffectUtils.h>
 
 #include "Changes.h"

@@ -1,7 +1,15 @@
 #include <algorithm>
 
 #include <EditorUtil/ItemFile.h>
-#include <effects/Effects.h>
+#include <effects/Base.h>
+#include <effects/CleanUp.h>
+#include <effects/ColorCorrection.h>
+#include <effects/Dynamics.h>
+#include <effects/Equalizer.h>
+#include <effects/Holder.h>
+#include <effects/Identity.h>
+#include <effects/Mask.h>
+#include <effects/Shaders.h>
 
 #include "Effectctl.h"
 

@@ -11,7 +11,11 @@
 #include <EditorSerialization/JsonArchive.h>
 #include <EditorSerialization/Registry.h>
 #include <EditorSerialization/StreamSerializer.h>
-#include <effects/Effects.h>
+#include <effects/ColorCorrection.h>
+#include <effects/Equalizer.h>
+#include <effects/Holder.h>
+#include <effects/Identity.h>
+#include <effects/Modulation.h>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -15,7 +15,8 @@
 #include <EditorSerialization/JsonText.h>
 #include <EditorSerialization/Layout.h>
 #include <EditorSerialization/Registry.h>
-#include <effects/Effects.h>
+#include <effects/Composition.h>
+#include <effects/Holder.h>
 #include <support/Variations.h>
 
 #include "Chain.h"
