@@ -107,6 +107,22 @@ inline void copyShort(char * to, char const * from, std::size_t count)
         to[at] = from[at];
 }
 
+/// The first byte that is no blank, or the end.
+inline char const * endOfBlanks(char const * begin, char const * end)
+{
+#ifdef __SSE2__
+    for (; end - begin >= 16; begin += 16) {
+        __m128i const bytes = _mm_loadu_si128(reinterpret_cast<__m128i const *>(begin));
+        unsigned const blanks = static_cast<unsigned>(_mm_movemask_epi8(_mm_cmpeq_epi8(bytes, _mm_set1_epi8(' '))));
+        if (blanks != 0xFFFF)
+            return begin + __builtin_ctz(~blanks);
+    }
+#endif
+    while (begin != end && *begin == ' ')
+        ++begin;
+    return begin;
+}
+
 /// The first byte that is not plain, or the end.
 inline char const * endOfPlain(char const * begin, char const * end)
 {
