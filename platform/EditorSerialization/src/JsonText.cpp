@@ -74,7 +74,7 @@ bool ObjectReader::text(QString & text)
         text = fromUtf8(bytes);
         return true;
     }
-    // Most texts are those that the constructor has put there, and stay.
+    // Most texts equal the default of the constructor, which then stays.
     bool const hasSize = static_cast<std::size_t>(text.size()) == bytes.size() && !text.isNull();
     if (hasSize && areSame(reinterpret_cast<char16_t const *>(text.constData()), bytes.data(), bytes.size()))
         return true;

@@ -13,8 +13,8 @@ namespace Serialize {
 
 namespace {
 
-/// A name that has been registered at some time. It is never destroyed, so that a look-up needs no lock; a class that
-/// is registered again finds its place.
+/// A name that has been registered at some time. Never destroyed, so that lookups need no lock; a class that is
+/// registered again reuses it.
 struct Place
 {
     std::string const name;
@@ -30,7 +30,7 @@ struct Classes
     std::array<std::atomic<Place *>, 512> buckets{};
 };
 
-// Never destroyed: registrators of libraries that are unloaded late still come here.
+// Never destroyed, since registrators of libraries that are unloaded late still use it.
 Classes & classes()
 {
     static auto & classes = *new Classes;
