@@ -275,7 +275,7 @@ TEST(HolderInJson, ReadingReplacesWhatWasThere)
 
 // The polymorphic interfaces.
 
-/// Writes down what it is told, and goes into no object.
+/// Records the calls and does not descend into objects.
 class Recorder final : public Serialize::ISerializer, private Serialize::IValueWriter
 {
 public:

@@ -180,7 +180,7 @@ private:
     }
 
     /// The offset of the bracket that opens one level too many. The text before it has been parsed, so that brackets
-    /// and quotation marks can be believed.
+    /// and quotation marks are balanced.
     std::size_t tooDeepAt() const
     {
         int depth = 0;
@@ -504,7 +504,7 @@ void iarchive::follow(std::int64_t id)
         fail("references are nested more than " + std::to_string(maxObjectDepth) + " deep");
     m_copied += weight(*found->second);
     if (m_copied > maxCopied)
-        fail("the references of the document stand for too much");
+        fail("the references of the document multiply beyond the limit");
     m_stack.back().value = found->second;
     m_stack.back().followed = true;
 }

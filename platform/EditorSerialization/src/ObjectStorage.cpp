@@ -50,8 +50,8 @@ void ObjectStorage::releaseAll()
         return;
     m_state->tracker.clear();
     // Moved out first, so that each callback is called once, whatever it does.
-    for (auto const & tell : std::exchange(m_state->released, {}))
-        tell();
+    for (auto const & callback : std::exchange(m_state->released, {}))
+        callback();
 }
 
 std::size_t ObjectStorage::size() const

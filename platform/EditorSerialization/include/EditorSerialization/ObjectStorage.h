@@ -33,7 +33,7 @@ public:
 
 private:
     struct State;
-    std::unique_ptr<State> m_state; // null until something is added: one stands beside each item that is delivered
+    std::unique_ptr<State> m_state; // null until something is added, since every delivered item has a storage
 };
 
 /// An owning pointer to an object that was read, with the storage that owns the objects created on the way. Call

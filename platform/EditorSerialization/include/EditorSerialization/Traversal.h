@@ -21,7 +21,7 @@
 
 namespace Serialize {
 
-/// A key, which is a literal or null, and a pointer to the value that stands under it.
+/// A key, which is a literal or null, and a pointer to its value.
 template <class T> using Field = boost::serialization::nvp<T> const;
 
 /// A field of that key. The key must outlive it.

@@ -21,7 +21,7 @@ public:
     /// The category of the user's own items in a collection; empty if there is none.
     /// Unless the host says otherwise, "Luts" alone has one, "category_user".
     static QString userCategory(QString const & collectionName);
-    /// Sets that name for the whole process; an empty one leaves the collection without.
+    /// Sets that category for the whole process; an empty name removes it.
     static void setUserCategory(QString const & collectionName, QString const & category);
 };
 
