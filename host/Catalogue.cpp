@@ -6,15 +6,17 @@
 #include <EditorModel/CollectionProvider.h>
 #include <EditorSettings/Settings.h>
 #include <EditorUtil/ItemStorage.h>
+#include <inspect/Conversion.h>
+#include <inspect/FileNames.h>
+#include <inspect/Files.h>
+#include <inspect/Messages.h>
+#include <inspect/RenderHost.h>
+#include <inspect/Text.h>
 
 #include "Command.h"
-#include "Conversion.h"
-#include "FileNames.h"
-#include "Files.h"
-#include "Messages.h"
+#include "FileCommand.h"
 #include "Output.h"
 #include "Progress.h"
-#include "RenderHost.h"
 
 #include <QFileInfo>
 
@@ -121,12 +123,6 @@ json describe(EditorCollection::IItem const & item)
     return {{"class", effect.GetNameInArchive()}, {"tag", effect.tag.toStdString()}, {"id", effect.id.toStdString()},
         {"groupId", effect.groupId.toStdString()}, {"categories", std::move(categories)}, {"user", item.userFlagA()},
         {"file", asText(item.file())}};
-}
-
-/// Such as "1 item" and "2 items".
-std::string counted(std::size_t count, std::string const & noun)
-{
-    return std::to_string(count) + ' ' + noun + (count == 1 ? "" : "s");
 }
 
 void printCollection(json const & collection)

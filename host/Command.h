@@ -2,12 +2,15 @@
 /// What the subcommands share.
 #pragma once
 
-#include <stdexcept>
 #include <string>
+
+#include <inspect/Failure.h>
 
 #include <CLI/CLI.hpp>
 
 namespace Host {
+
+using namespace Effect::Inspect; // which does the work
 
 /// Statuses with which the program ends.
 namespace Status {
@@ -15,13 +18,6 @@ constexpr int done = 0;
 constexpr int badInput = 1;
 constexpr int wrongUsage = 2;
 } // namespace Status
-
-/// Ends a command with status 1; the text is the one line that the user sees.
-class Failure : public std::runtime_error
-{
-public:
-    using std::runtime_error::runtime_error;
-};
 
 /// @name The subcommands
 /// Each adds itself to the program and runs when it is chosen.

@@ -11,16 +11,19 @@
 #include <EditorModel/Resource.h>
 #include <EditorSerialization/JsonArchive.h>
 #include <effects/Effects.h>
+#include <inspect/Changes.h>
+#include <inspect/Conversion.h>
+#include <inspect/Documents.h>
+#include <inspect/FileNames.h>
+#include <inspect/Files.h>
+#include <inspect/RenderHost.h>
+#include <inspect/Text.h>
 #include <utils/EffectUtils.h>
 
-#include "Changes.h"
 #include "Command.h"
-#include "Conversion.h"
-#include "Documents.h"
-#include "FileNames.h"
-#include "Files.h"
+#include "FileCommand.h"
 #include "Output.h"
-#include "RenderHost.h"
+#include "Pairs.h"
 
 #include <QString>
 

@@ -2,12 +2,14 @@
 #include <string>
 #include <vector>
 
+#include <inspect/Files.h>
+#include <inspect/Text.h>
 #include <ParserLUT/LUTTable.h>
 #include <ParserLUT/ParserLUTFactory.h>
 #include <utils/LutUtils.h>
 
 #include "Command.h"
-#include "Files.h"
+#include "FileCommand.h"
 #include "Output.h"
 
 #include <QByteArray>

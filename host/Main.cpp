@@ -6,10 +6,10 @@
 #include <unistd.h>
 
 #include <effects/Version.h>
+#include <inspect/FileNames.h>
+#include <inspect/Messages.h>
 
 #include "Command.h"
-#include "FileNames.h"
-#include "Messages.h"
 #include "Output.h"
 
 #include <QString>

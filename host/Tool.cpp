@@ -1,12 +1,14 @@
 #include <EditorUtil/ItemStorage.h>
+#include <inspect/Documents.h>
+#include <inspect/Files.h>
+#include <inspect/RenderHost.h>
+#include <inspect/Text.h>
+#include <inspect/ToolName.h>
 #include <utils/EffectUtils.h>
 
 #include "Command.h"
-#include "Documents.h"
-#include "Files.h"
+#include "FileCommand.h"
 #include "Output.h"
-#include "RenderHost.h"
-#include "ToolName.h"
 
 namespace Host {
 

@@ -1,11 +1,11 @@
-#include "FileNames.h"
+#include <inspect/FileNames.h>
 
 #include <algorithm>
 
 #include <QFile>
 #include <QTextCodec>
 
-namespace Host {
+namespace Effect::Inspect {
 
 namespace {
 
@@ -17,7 +17,7 @@ constexpr ushort lastEscape = escapeBase + 0xFF;
 class FileNameCodec final : public QTextCodec
 {
 public:
-    QByteArray name() const override { return "effectctl-file-names"; }
+    QByteArray name() const override { return "file-names"; }
     int mibEnum() const override { return 0; } // not registered
 
 private:
@@ -82,4 +82,4 @@ std::string toBytes(QString const & fileName)
     return QFile::encodeName(fileName).toStdString();
 }
 
-} // namespace Host
+} // namespace Effect::Inspect

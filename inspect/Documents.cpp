@@ -1,11 +1,10 @@
-#include "Documents.h"
+#include <inspect/Documents.h>
 
 #include <EditorSerialization/JsonArchive.h>
 #include <EditorSerialization/Nearest.h>
+#include <inspect/Failure.h>
 
-#include "Command.h"
-
-namespace Host {
+namespace Effect::Inspect {
 
 using Effect::Schema::Class;
 using Effect::Schema::Parameter;
@@ -85,4 +84,4 @@ void setField(json & document, FieldsOf part, std::string const & key, json valu
     document[json::json_pointer(found->pointer)] = std::move(value);
 }
 
-} // namespace Host
+} // namespace Effect::Inspect

@@ -1,12 +1,12 @@
-#include "ClassDescription.h"
+#include <inspect/ClassDescription.h>
 
 #include <cmath>
 #include <cstdint>
 #include <cstdio>
 
-#include "Output.h"
+#include <inspect/Text.h>
 
-namespace Host {
+namespace Effect::Inspect {
 
 using Effect::Schema::Class;
 using Effect::Schema::Kind;
@@ -184,4 +184,4 @@ std::string suggestionText(Parameter const & parameter)
     return limitsText(parameter.suggestedMinimum, parameter.suggestedMaximum);
 }
 
-} // namespace Host
+} // namespace Effect::Inspect

@@ -1,16 +1,15 @@
-#include "RenderHost.h"
+#include <inspect/RenderHost.h>
 
 #include <collection/Effects/ContentProvider.h>
 #include <EditorModel/CollectionProvider.h>
 #include <EditorSerialization/JsonArchive.h>
+#include <inspect/Messages.h>
 #include <Settings/Settings.h>
 #include <Settings/Trace.h>
 
-#include "Messages.h"
-
 #include <QGuiApplication>
 
-namespace Host {
+namespace Effect::Inspect {
 
 using nlohmann::json;
 
@@ -74,12 +73,17 @@ struct RenderHost::State
         : installed(storage)
     {}
 
-    Offscreen offscreen;
-    // Pictures cannot be made without an application.
-    int argumentCount = 1;
-    char name[10] = "effectctl";
-    char * arguments[2] = {name, nullptr};
-    QGuiApplication application{argumentCount, arguments};
+    /// Pictures cannot be made without an application.
+    struct Application
+    {
+        Offscreen offscreen;
+        int argumentCount = 1;
+        char name[14] = "EditorEffects";
+        char * arguments[2] = {name, nullptr};
+        QGuiApplication application{argumentCount, arguments};
+    };
+
+    std::unique_ptr<Application> application{QCoreApplication::instance() ? nullptr : new Application};
     Installed installed;
     Effect::ContentProvider provider;
 };
@@ -112,4 +116,4 @@ json RenderHost::convert(Effect::Object const & effect, RenderParams const & par
     return described;
 }
 
-} // namespace Host
+} // namespace Effect::Inspect

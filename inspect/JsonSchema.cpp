@@ -1,4 +1,4 @@
-#include "JsonSchema.h"
+#include <inspect/JsonSchema.h>
 
 #include <cstdint>
 #include <limits>
@@ -8,11 +8,10 @@
 #include <EditorModel/Resource.h>
 #include <EditorSerialization/JsonArchive.h>
 #include <EditorSerialization/Layout.h>
+#include <inspect/ClassDescription.h>
+#include <inspect/Text.h>
 
-#include "ClassDescription.h"
-#include "Output.h"
-
-namespace Host {
+namespace Effect::Inspect {
 
 using Effect::Schema::Class;
 using Effect::Schema::Kind;
@@ -362,4 +361,4 @@ json jsonSchema(SchemaOptions const & options)
     return Generator(options).make();
 }
 
-} // namespace Host
+} // namespace Effect::Inspect

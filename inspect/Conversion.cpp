@@ -1,8 +1,9 @@
-#include "Conversion.h"
+#include <inspect/Conversion.h>
 
 #include <effects/Effects.h>
+#include <inspect/Text.h>
 
-namespace Host {
+namespace Effect::Inspect {
 
 using nlohmann::json;
 
@@ -84,4 +85,4 @@ char const * toText(Outcome::Result result)
     return "";
 }
 
-} // namespace Host
+} // namespace Effect::Inspect

@@ -3,14 +3,11 @@
 #pragma once
 
 #include <string>
-#include <utility>
-#include <vector>
 
 #include <EditorSerialization/ISerializable.h>
+#include <inspect/Export.h>
 
-#include <CLI/CLI.hpp>
-
-namespace Host {
+namespace Effect::Inspect {
 
 /// Sets a parameter of an object of one of the library's classes, or throws a `Failure` that says what was wrong and
 /// what is allowed, and leaves the object as it is.
@@ -19,14 +16,7 @@ namespace Host {
 ///               which also leads into records and to the elements of lists: "/concealFrames/0/method"
 /// @param value  JSON, or the name or label of a choice in either case, or "#rrggbb" or "#aarrggbb" for a colour; any
 ///               other text that is no JSON is a text
-void setParameter(Serialize::ISerializable & object, std::string const & key, std::string const & value);
+EFFECTS_INSPECT_API void setParameter(
+    Serialize::ISerializable & object, std::string const & key, std::string const & value);
 
-/// @name Options whose values are pairs "NAME=VALUE", any number of them
-/// @{
-CLI::Option * addPairs(
-    CLI::App & command, std::string const & name, std::vector<std::string> & pairs, std::string const & help);
-/// The texts before and behind the first "=".
-std::pair<std::string, std::string> halves(std::string const & pair);
-/// @}
-
-} // namespace Host
+} // namespace Effect::Inspect

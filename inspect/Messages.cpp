@@ -1,10 +1,10 @@
-#include "Messages.h"
+#include <inspect/Messages.h>
 
 #include <atomic>
 
 #include <glog/logging.h>
 
-namespace Host {
+namespace Effect::Inspect {
 
 namespace {
 
@@ -82,4 +82,4 @@ Messages::~Messages()
     areCollected = false;
 }
 
-} // namespace Host
+} // namespace Effect::Inspect

@@ -1,19 +1,18 @@
-#include "Changes.h"
+#include <inspect/Changes.h>
 
 #include <stdexcept>
 
 #include <EditorSerialization/JsonArchive.h>
 #include <EditorSerialization/Nearest.h>
 #include <effects/Schema.h>
-
-#include "Command.h"
-#include "Output.h"
+#include <inspect/Failure.h>
+#include <inspect/Text.h>
 
 #include <QString>
 
 #include <nlohmann/json.hpp>
 
-namespace Host {
+namespace Effect::Inspect {
 
 using Effect::Schema::Class;
 using Effect::Schema::Kind;
@@ -188,19 +187,4 @@ void setParameter(ISerializable & object, std::string const & key, std::string c
     setText(object, *parameter, value);
 }
 
-std::pair<std::string, std::string> halves(std::string const & pair)
-{
-    std::size_t const sign = pair.find('=');
-    return {pair.substr(0, sign), pair.substr(sign + 1)};
-}
-
-CLI::Option * addPairs(
-    CLI::App & command, std::string const & name, std::vector<std::string> & pairs, std::string const & help)
-{
-    return command.add_option(name, pairs, help)->check([](std::string const & pair) {
-        std::size_t const sign = pair.find('=');
-        return sign == 0 || sign == pair.npos ? pair + " is not of the form NAME=VALUE" : std::string();
-    });
-}
-
-} // namespace Host
+} // namespace Effect::Inspect

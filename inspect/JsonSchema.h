@@ -5,10 +5,11 @@
 #include <vector>
 
 #include <effects/Schema.h>
+#include <inspect/Export.h>
 
 #include <nlohmann/json.hpp>
 
-namespace Host {
+namespace Effect::Inspect {
 
 /// What a schema is of.
 struct SchemaOptions
@@ -25,6 +26,6 @@ struct SchemaOptions
 /// Stricter than the reader in one point: `$meta` must be an object, its class name a string and its number an integer,
 /// also where the reader does not need them. More lenient in two: an integer may be written as 1.0, which JSON Schema
 /// does not distinguish from 1, and the objects that references lead to are not validated.
-nlohmann::json jsonSchema(SchemaOptions const & options);
+EFFECTS_INSPECT_API nlohmann::json jsonSchema(SchemaOptions const & options);
 
-} // namespace Host
+} // namespace Effect::Inspect

@@ -6,32 +6,37 @@
 #include <memory>
 #include <string_view>
 
+#include <inspect/Export.h>
+
 #include <nlohmann/json.hpp>
 
-namespace Host {
+namespace Effect::Inspect {
 
 /// Passes every warning and error that the library logs to `write`, on the thread that logs it, and keeps the log from
 /// writing files. Called once, at the start of the program.
-void startMessages(char const * program, void (*write)(std::string_view message));
+EFFECTS_INSPECT_API void startMessages(char const * program, void (*write)(std::string_view message));
 
 /// How many were passed so far.
-std::size_t messageCount();
+EFFECTS_INSPECT_API std::size_t messageCount();
 
 /// Collects what the library logs while it lives, instead of passing it on. One at a time.
-class Messages
+class EFFECTS_INSPECT_API Messages
 {
 public:
+    /// @{
+    /// Begins and ends to collect.
     Messages();
     ~Messages();
+    /// @}
     Messages(Messages const &) = delete;
     Messages & operator=(Messages const &) = delete;
 
-    nlohmann::json errors = nlohmann::json::array();
-    nlohmann::json warnings = nlohmann::json::array();
+    nlohmann::json errors = nlohmann::json::array();   ///< texts
+    nlohmann::json warnings = nlohmann::json::array(); ///< texts
 
 private:
     class Sink;
     std::unique_ptr<Sink> m_sink;
 };
 
-} // namespace Host
+} // namespace Effect::Inspect

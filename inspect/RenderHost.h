@@ -7,21 +7,22 @@
 
 #include <EditorModel/EffectFactory.h>
 #include <EditorModel/ItemStorage.h>
+#include <inspect/Export.h>
 
 #include <nlohmann/json.hpp>
 
-namespace Host {
+namespace Effect::Inspect {
 
 /// What an effect is converted for.
 struct RenderParams
 {
-    Effect::Factory::VideoParams video;
-    Effect::Factory::AudioParams audio;
-    std::optional<Effect::Type> as; ///< the operation of the factory; the effect's own type when absent
+    Effect::Factory::VideoParams video; ///< for the factory's operation of video effects
+    Effect::Factory::AudioParams audio; ///< for that of audio effects
+    std::optional<Effect::Type> as;     ///< the operation of the factory; the effect's own type when absent
 };
 
-/// The library at work. One at a time.
-class RenderHost
+/// The library at work. One at a time. It makes a `QGuiApplication`, which pictures need, where the process has none.
+class EFFECTS_INSPECT_API RenderHost
 {
 public:
     RenderHost(); ///< without a catalogue
@@ -39,4 +40,4 @@ private:
     std::unique_ptr<State> m_state;
 };
 
-} // namespace Host
+} // namespace Effect::Inspect

@@ -1,6 +1,6 @@
-#include "ToolName.h"
+#include <inspect/ToolName.h>
 
-namespace Host {
+namespace Effect::Inspect {
 
 char const * toolName(Tool::Type tool)
 {
@@ -39,4 +39,4 @@ char const * toolName(Tool::Type tool)
     return "";
 }
 
-} // namespace Host
+} // namespace Effect::Inspect
