@@ -1,8 +1,8 @@
 # Installation, the packages that find_package and pkg-config find, and Debian packages.
 #
-# Three components: `runtime` (the library, the editor's libraries in a folder of their own, the stock content, the
-# translations), `development` (headers, link names, package descriptions) and `tool` (effectctl). Nothing that is installed knows
-# where: a prefix can be moved.
+# Four components: `runtime` (the library, the editor's libraries in a folder of their own, the stock content, the
+# translations), `inspect` (the library that looks into effects and their files), `development` (headers, link names, package
+# descriptions) and `tool` (effectctl). Nothing that is installed knows where: a prefix can be moved.
 include(CMakePackageConfigHelpers)
 
 # The way from one installed folder to another.
@@ -37,21 +37,27 @@ if(NOT EDITOREFFECTS_PLATFORM STREQUAL "embedded")
   set(platform_elsewhere ON)
 endif()
 
-# --- The library -------------------------------------------------------------
+# --- The libraries -----------------------------------------------------------
 
-set_target_properties(EditorEffects PROPERTIES
-  EXPORT_NAME Effects
-  INSTALL_RPATH "$ORIGIN/${platform_from_lib}"
-  INSTALL_RPATH_USE_LINK_PATH ${platform_elsewhere})
-install(TARGETS EditorEffects EXPORT EditorEffectsTargets
-  LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}" COMPONENT runtime NAMELINK_COMPONENT development)
+# editor_install_library(TARGET NAME COMPONENT): exported as Editor::NAME.
+function(editor_install_library target name component)
+  set_target_properties(${target} PROPERTIES
+    EXPORT_NAME ${name}
+    INSTALL_RPATH "$ORIGIN;$ORIGIN/${platform_from_lib}"
+    INSTALL_RPATH_USE_LINK_PATH ${platform_elsewhere})
+  install(TARGETS ${target} EXPORT EditorEffectsTargets
+    LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}" COMPONENT ${component} NAMELINK_COMPONENT development)
+endfunction()
+
+editor_install_library(EditorEffects Effects runtime)
+editor_install_library(EditorEffectsInspect EffectsInspect inspect)
 
 list(TRANSFORM exported_families REPLACE "(.+)" "effects/\\1.def" OUTPUT_VARIABLE family_rows)
 install(FILES
   "${EDITOREFFECTS_GENERATED}/effects/Effects.h" "${EDITOREFFECTS_GENERATED}/effects/ExportedFamilies.def"
   "${EDITOREFFECTS_GENERATED}/effects/Version.h"
   DESTINATION "${EDITOR_INCLUDEDIR}/effects" COMPONENT development)
-foreach(header IN LISTS EDITOREFFECTS_PUBLIC_HEADERS family_rows)
+foreach(header IN LISTS EDITOREFFECTS_PUBLIC_HEADERS EDITOREFFECTS_INSPECT_HEADERS family_rows)
   cmake_path(GET header PARENT_PATH folder)
   install(FILES "${header}" DESTINATION "${EDITOR_INCLUDEDIR}/${folder}" COMPONENT development)
 endforeach()
@@ -94,9 +100,10 @@ endif()
 # --- Debian packages: cmake --workflow --preset package ------------------------
 
 set(runtime_package "libeditoreffects${PROJECT_VERSION_MAJOR}")
+set(inspect_package "libeditoreffectsinspect${PROJECT_VERSION_MAJOR}")
 set(development_package "libeditoreffects-dev")
 set(tool_package "effectctl")
-foreach(component IN ITEMS runtime development tool)
+foreach(component IN ITEMS runtime inspect development tool)
   install(FILES cmake/debian/copyright
     DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/${${component}_package}" COMPONENT ${component})
 endforeach()
@@ -110,7 +117,7 @@ set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "")
 set(CPACK_RESOURCE_FILE_LICENSE "${PROJECT_SOURCE_DIR}/LICENSE")
 set(CPACK_PACKAGE_DIRECTORY "${PROJECT_BINARY_DIR}/packages")
 set(CPACK_STRIP_FILES ON)
-set(CPACK_COMPONENTS_ALL runtime development tool)
+set(CPACK_COMPONENTS_ALL runtime inspect development tool)
 set(CPACK_DEB_COMPONENT_INSTALL ON)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 # The packages come out of this tree, so their version has no Debian revision.
@@ -124,6 +131,7 @@ set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 set(CPACK_PRE_BUILD_SCRIPTS "${PROJECT_SOURCE_DIR}/cmake/debian/Documents.cmake")
 set(CPACK_POST_BUILD_SCRIPTS "${PROJECT_SOURCE_DIR}/cmake/debian/Scripts.cmake")
 set(this_runtime "${runtime_package} (= ${PROJECT_VERSION})")
+set(this_inspect "${inspect_package} (= ${PROJECT_VERSION})")
 
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_NAME "${runtime_package}")
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_SECTION libs)
@@ -132,19 +140,27 @@ Typed video and audio effects, their binary and JSON archives, their conversion
 into the settings of a render engine, and the stock catalogue.")
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_CONTROL_EXTRA "${PROJECT_SOURCE_DIR}/cmake/debian/triggers")
 
+set(CPACK_DEBIAN_INSPECT_PACKAGE_NAME "${inspect_package}")
+set(CPACK_DEBIAN_INSPECT_PACKAGE_SECTION libs)
+set(CPACK_DEBIAN_INSPECT_DESCRIPTION "effects library of a non-linear video editor (inspection)
+Findings, differences, conversion reports and descriptions of effects and of
+the files that hold them, for tools around the editor.")
+set(CPACK_DEBIAN_INSPECT_PACKAGE_DEPENDS "${this_runtime}")
+set(CPACK_DEBIAN_INSPECT_PACKAGE_CONTROL_EXTRA "${PROJECT_SOURCE_DIR}/cmake/debian/triggers")
+
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_NAME "${development_package}")
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)
 set(CPACK_DEBIAN_DEVELOPMENT_DESCRIPTION "effects library of a non-linear video editor (development files)
 The headers, and the descriptions by which CMake and pkg-config find the
 library.")
 string(JOIN ", " CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS
-  "${this_runtime}" "libboost-serialization-dev (>= 1.74)" "qtbase5-dev (>= 5.15)" "nlohmann-json3-dev (>= 3.11)")
+  "${this_runtime}" "${this_inspect}" "libboost-serialization-dev (>= 1.74)" "qtbase5-dev (>= 5.15)" "nlohmann-json3-dev (>= 3.11)")
 
 set(CPACK_DEBIAN_TOOL_PACKAGE_NAME "${tool_package}")
 set(CPACK_DEBIAN_TOOL_PACKAGE_SECTION video)
 set(CPACK_DEBIAN_TOOL_DESCRIPTION "command-line host of the effects library of a video editor
 Lists, shows, archives and converts effects, and checks the stock catalogue.")
-set(CPACK_DEBIAN_TOOL_PACKAGE_DEPENDS "${this_runtime}")
+set(CPACK_DEBIAN_TOOL_PACKAGE_DEPENDS "${this_runtime}, ${this_inspect}")
 
 if(PROJECT_IS_TOP_LEVEL)
   include(CPack)

@@ -1,7 +1,8 @@
 #include <EditorModel/EffectArchive.h>
+#include <inspect/Files.h>
+#include <inspect/Text.h>
 
 #include "Command.h"
-#include "Files.h"
 #include "Output.h"
 
 namespace Host {

@@ -6,15 +6,17 @@
 #include <EditorModel/CollectionProvider.h>
 #include <EditorSettings/Settings.h>
 #include <EditorUtil/ItemStorage.h>
+#include <inspect/Conversion.h>
+#include <inspect/FileNames.h>
+#include <inspect/Files.h>
+#include <inspect/Messages.h>
+#include <inspect/RenderHost.h>
+#include <inspect/Text.h>
 
 #include "Command.h"
-#include "Conversion.h"
-#include "FileNames.h"
-#include "Files.h"
-#include "Messages.h"
+#include "FileCommand.h"
 #include "Output.h"
 #include "Progress.h"
-#include "RenderHost.h"
 
 #include <QFileInfo>
 
@@ -78,12 +80,15 @@ void count(Outcome const & outcome, Summary & summary)
     }
 }
 
-Outcome convert(RenderHost & host, Effect::Object const & effect)
+/// @param log  receives what the factory logged
+Outcome convert(RenderHost & host, Effect::Object const & effect, json & log)
 {
     RenderParams params;
     params.video = {{1920, 1080}, 5 * MTime::unitsPerSecond}; // any will do
     try {
-        return outcomeOf(effect, recordOf(host, effect, params));
+        json const record = recordOf(host, effect, params);
+        log = record["log"];
+        return outcomeOf(effect, record);
     } catch (std::exception const & error) {
         return {Outcome::Result::Failed, 0, {error.what()}};
     }
@@ -94,9 +99,12 @@ Outcome convert(RenderHost & host, Effect::Object const & effect)
 std::vector<std::string> convertItem(
     RenderHost & host, EditorCollection::IItem const & item, json & described, Summary & summary)
 {
-    Outcome const outcome = convert(host, item.payload());
+    json log = json::array();
+    Outcome const outcome = convert(host, item.payload(), log);
     count(outcome, summary);
     described["result"] = toText(outcome.result);
+    if (!log.empty())
+        described["log"] = std::move(log);
     if (outcome.result == Outcome::Result::Holder)
         described["effects"] = outcome.held;
     if (outcome.problems.empty())
@@ -121,12 +129,6 @@ json describe(EditorCollection::IItem const & item)
     return {{"class", effect.GetNameInArchive()}, {"tag", effect.tag.toStdString()}, {"id", effect.id.toStdString()},
         {"groupId", effect.groupId.toStdString()}, {"categories", std::move(categories)}, {"user", item.userFlagA()},
         {"file", asText(item.file())}};
-}
-
-/// Such as "1 item" and "2 items".
-std::string counted(std::size_t count, std::string const & noun)
-{
-    return std::to_string(count) + ' ' + noun + (count == 1 ? "" : "s");
 }
 
 void printCollection(json const & collection)

@@ -2,12 +2,15 @@
 /// What the subcommands share.
 #pragma once
 
-#include <stdexcept>
 #include <string>
+
+#include <inspect/Failure.h>
 
 #include <CLI/CLI.hpp>
 
 namespace Host {
+
+using namespace Effect::Inspect; // which does the work
 
 /// Statuses with which the program ends.
 namespace Status {
@@ -16,22 +19,19 @@ constexpr int badInput = 1;
 constexpr int wrongUsage = 2;
 } // namespace Status
 
-/// Ends a command with status 1; the text is the one line that the user sees.
-class Failure : public std::runtime_error
-{
-public:
-    using std::runtime_error::runtime_error;
-};
-
 /// @name The subcommands
 /// Each adds itself to the program and runs when it is chosen.
 /// @{
 void addArchive(CLI::App & program);
 void addCatalogue(CLI::App & program);
+void addCheck(CLI::App & program);
 void addConvert(CLI::App & program);
 void addDescribe(CLI::App & program);
+void addDiff(CLI::App & program);
+void addEdit(CLI::App & program);
 void addList(CLI::App & program);
 void addLut(CLI::App & program);
+void addPatch(CLI::App & program);
 void addSalvage(CLI::App & program);
 void addSchema(CLI::App & program);
 void addShow(CLI::App & program);

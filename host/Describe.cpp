@@ -1,8 +1,9 @@
 #include <iostream>
 
-#include "ClassDescription.h"
+#include <inspect/ClassDescription.h>
+#include <inspect/Documents.h>
+
 #include "Command.h"
-#include "Documents.h"
 #include "Output.h"
 
 namespace Host {

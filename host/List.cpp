@@ -1,4 +1,6 @@
-#include "ClassDescription.h"
+#include <inspect/ClassDescription.h>
+#include <inspect/Text.h>
+
 #include "Command.h"
 #include "Output.h"
 

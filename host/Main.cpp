@@ -6,10 +6,10 @@
 #include <unistd.h>
 
 #include <effects/Version.h>
+#include <inspect/FileNames.h>
+#include <inspect/Messages.h>
 
 #include "Command.h"
-#include "FileNames.h"
-#include "Messages.h"
 #include "Output.h"
 
 #include <QString>
@@ -94,6 +94,10 @@ int main(int argc, char ** argv)
     Host::addSchema(program);
     Host::addShow(program);
     Host::addArchive(program);
+    Host::addCheck(program);
+    Host::addDiff(program);
+    Host::addPatch(program);
+    Host::addEdit(program);
     Host::addSalvage(program);
     Host::addConvert(program);
     Host::addCatalogue(program);

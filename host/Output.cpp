@@ -8,23 +8,21 @@
 
 #include <unistd.h>
 
-#include "Progress.h"
+#include <inspect/Text.h>
 
-#include <QString>
+#include "Progress.h"
 
 namespace Host {
 
+using Effect::Inspect::asText;
+using Effect::Inspect::isControl;
+using Effect::Inspect::toText;
 using nlohmann::json;
 
 namespace {
 
 constexpr int indentWidth = 2;
 constexpr std::size_t pageWidth = 80; // columns
-
-bool isControl(char byte)
-{
-    return (byte >= 0 && byte < ' ') || byte == 0x7F;
-}
 
 std::string variable(char const * name)
 {
@@ -114,16 +112,6 @@ void complain(std::string_view reason)
     std::cerr << name + ' ' + line + '\n';
 }
 
-std::string asText(std::string_view bytes)
-{
-    return QString::fromUtf8(bytes.data(), static_cast<int>(bytes.size())).toStdString();
-}
-
-std::string quoted(std::string const & text)
-{
-    return std::any_of(text.begin(), text.end(), isControl) ? toText(text) : text;
-}
-
 std::size_t columnsOf(std::string const & text)
 {
     return static_cast<std::size_t>(
@@ -133,19 +121,6 @@ std::size_t columnsOf(std::string const & text)
 std::string paintedAndPadded(Look look, std::string const & text, std::size_t columns)
 {
     return painted(look, text) + std::string(columns - std::min(columns, columnsOf(text)), ' ');
-}
-
-std::string joined(std::vector<std::string> const & words, std::string const & between)
-{
-    std::string text;
-    for (std::string const & word : words)
-        text += (text.empty() ? "" : between) + word;
-    return text;
-}
-
-std::string toText(json const & value, int indent)
-{
-    return value.dump(indent, ' ', false, json::error_handler_t::replace);
 }
 
 void printJson(json const & document)

@@ -59,25 +59,11 @@ private:
 /// Writes what went wrong to standard error, as one line of UTF-8.
 void complain(std::string_view reason);
 
-/// The text with a replacement character for every byte that is no UTF-8.
-std::string asText(std::string_view bytes);
-
-/// A text for use within a line: as JSON where there are control characters in it.
-std::string quoted(std::string const & text);
-
 /// Columns that a text takes, as far as one column a character goes.
 std::size_t columnsOf(std::string const & text);
 
 /// The text in that look, with blanks behind it up to that many columns.
 std::string paintedAndPadded(Look look, std::string const & text, std::size_t columns);
-
-/// The words with `between` between them.
-std::string joined(std::vector<std::string> const & words, std::string const & between);
-
-/// A JSON text in UTF-8, whatever bytes are in the value's own texts: they may come from any file. Never throws for
-/// what they hold.
-/// @param indent  of each level; without one the text is a single line
-std::string toText(nlohmann::json const & value, int indent = -1);
 
 /// @name On standard output
 /// @{

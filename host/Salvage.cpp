@@ -2,17 +2,17 @@
 
 #include <EditorModel/EffectArchive.h>
 #include <EditorModel/EffectDocument.h>
+#include <inspect/Files.h>
+#include <inspect/Findings.h>
+#include <inspect/Text.h>
 
 #include "Command.h"
-#include "Files.h"
 #include "Output.h"
 
 namespace Host {
 
 using Effect::Archive::Document;
 using Effect::Archive::Finding;
-using Effect::Archive::Severity;
-using nlohmann::json;
 
 namespace {
 
@@ -23,54 +23,13 @@ struct Options
     bool asJson = false;
 };
 
-template <class Value> json optional(std::optional<Value> const & value)
-{
-    return value ? json(*value) : json();
-}
-
-char const * nameOf(Severity severity)
-{
-    switch (severity) {
-    case Severity::Note:
-        return "note";
-    case Severity::Warning:
-        return "warning";
-    case Severity::Error:
-        return "error";
-    }
-    return "";
-}
-
-json toJson(Finding const & finding)
-{
-    return {{"severity", nameOf(finding.severity)}, {"code", finding.code}, {"pointer", optional(finding.pointer)},
-        {"offset", optional(finding.offset)}, {"line", optional(finding.line)}, {"column", optional(finding.column)},
-        {"message", finding.message}, {"suggestion", finding.suggestion.empty() ? json() : json(finding.suggestion)}};
-}
-
-/// "part.json:3:7: error: ..., at /effects/0", as compilers write it.
-std::string toLine(std::string const & file, Finding const & finding)
-{
-    std::string line = file;
-    if (finding.line)
-        line += ':' + std::to_string(*finding.line) + ':' + std::to_string(*finding.column);
-    line += std::string(": ") + nameOf(finding.severity) + ": " + finding.message;
-    if (finding.pointer && !finding.pointer->empty())
-        line += ", at " + *finding.pointer;
-    if (!finding.suggestion.empty())
-        line += "; did you mean \"" + finding.suggestion + "\"?";
-    return line;
-}
-
 void salvage(Options const & options)
 {
     std::string const bytes = readFile(options.from);
     Document const document = Document::salvage(bytes);
     if (options.asJson) {
-        json findings = json::array();
-        for (Finding const & finding : document.findings())
-            findings.push_back(toJson(finding));
-        printJson({{"file", asText(options.from)}, {"saved", document.effect() != nullptr}, {"findings", findings}});
+        printJson({{"file", asText(options.from)}, {"saved", document.effect() != nullptr},
+            {"findings", toJson(document.findings())}});
     } else {
         for (Finding const & finding : document.findings())
             std::cout << toLine(asText(options.from), finding) << '\n';

@@ -1,6 +1,7 @@
+#include <inspect/Documents.h>
+#include <inspect/JsonSchema.h>
+
 #include "Command.h"
-#include "Documents.h"
-#include "JsonSchema.h"
 #include "Output.h"
 
 namespace Host {

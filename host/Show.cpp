@@ -2,11 +2,13 @@
 #include <iostream>
 
 #include <EditorSerialization/JsonArchive.h>
+#include <inspect/ClassDescription.h>
+#include <inspect/Documents.h>
+#include <inspect/Files.h>
+#include <inspect/Text.h>
 
-#include "ClassDescription.h"
 #include "Command.h"
-#include "Documents.h"
-#include "Files.h"
+#include "FileCommand.h"
 #include "Output.h"
 
 namespace Host {

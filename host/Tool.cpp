@@ -1,12 +1,14 @@
 #include <EditorUtil/ItemStorage.h>
+#include <inspect/Documents.h>
+#include <inspect/Files.h>
+#include <inspect/RenderHost.h>
+#include <inspect/Text.h>
+#include <inspect/ToolName.h>
 #include <utils/EffectUtils.h>
 
 #include "Command.h"
-#include "Documents.h"
-#include "Files.h"
+#include "FileCommand.h"
 #include "Output.h"
-#include "RenderHost.h"
-#include "ToolName.h"
 
 namespace Host {
 
@@ -34,9 +36,7 @@ std::vector<std::string> cells(json const & found)
 void toolOfClass(Options const & options)
 {
     json const found = describe(*createEffect(options.className));
-    if (options.asJson)
-        printJson(found);
-    else
+    if (!printIfJson(options, found))
         printTable({{"CLASS", "TOOL", "NAME"}, cells(found)});
 }
 
@@ -75,7 +75,7 @@ void addTool(CLI::App & program)
     auto const options = std::make_shared<Options>();
     auto * const files = addFiles(*command, *options, "Archives in either form or items");
     addClass(*command, options->className, {files});
-    command->add_flag("--json", options->asJson, std::string(filesAsJson) + "; for --class, the object alone");
+    addJson(*command, *options, "; for --class, the object alone");
     setExamples(*command, "  effectctl tool crop.json\n"
                           "  effectctl tool --class Effect::Crop\n"
                           "  effectctl tool --json crop.json echo.bin\n"

@@ -1,5 +1,6 @@
 # Run by CPack on the finished packages: takes the scripts out that call ldconfig, which CPack puts into every package
-# with a library. The trigger of the runtime package updates the loader's cache, once for all packages installed together.
+# with a library. The triggers of the packages with a library update the loader's cache, once for all that are installed
+# together.
 cmake_minimum_required(VERSION 3.25)
 
 set(root "${CPACK_TOPLEVEL_DIRECTORY}/repack")

@@ -14,10 +14,10 @@
 #include <EditorUtil/ItemStorage.h>
 #include <effects/Base.h>
 #include <effects/Schema.h>
-#include <host/Documents.h>
-#include <host/Messages.h>
-#include <host/RenderHost.h>
-#include <host/ToolName.h>
+#include <inspect/Documents.h>
+#include <inspect/Messages.h>
+#include <inspect/RenderHost.h>
+#include <inspect/ToolName.h>
 #include <utils/EffectUtils.h>
 
 #include <CLI/CLI.hpp>
@@ -92,7 +92,7 @@ std::string stageName(int code)
 class Page
 {
 public:
-    Page(std::ostream & stream, Host::RenderHost & host)
+    Page(std::ostream & stream, Effect::Inspect::RenderHost & host)
         : m_stream(stream)
         , m_host(host)
     {}
@@ -177,7 +177,7 @@ private:
             row("settings identifier", code(info.processingSettingsId));
         settings(effect);
         auto const tool = Effect::Utils::findCorrespondingTool(effect);
-        row("tool", tool == Tool::Type::None ? "none" : Host::toolName(tool));
+        row("tool", tool == Tool::Type::None ? "none" : Effect::Inspect::toolName(tool));
         if (Parameter const * const intensity = info.find("intensity"); intensity && info.hasIntensity) {
             std::string const slider = limits(intensity->suggestedMinimum, intensity->suggestedMaximum);
             row("intensity", number(info.intensity) + (slider.empty() ? "" : ", suggested: " + slider) + ". " +
@@ -214,7 +214,7 @@ private:
     }
 
     std::ostream & m_stream;
-    Host::RenderHost & m_host;
+    Effect::Inspect::RenderHost & m_host;
 };
 
 void addIntroduction(Page & page)
@@ -233,7 +233,7 @@ std::string makePage(QString const & stock)
     // Some effects have a tool only through an item of the stock.
     Settings::setStockRoot(stock);
     EditorCollection::ItemStorage storage;
-    Host::RenderHost host(storage);
+    Effect::Inspect::RenderHost host(storage);
     storage.waitForAll();
 
     std::ostringstream stream;
@@ -287,7 +287,7 @@ int main(int argc, char ** argv)
     program.add_option("--stock", stock, "The folder of stock content")->required();
     program.add_option("--check", current, "Compare the page with this file, instead of printing it");
     CLI11_PARSE(program, argc, argv);
-    Host::startMessages(argv[0], [](std::string_view message) { std::cerr << message << '\n'; });
+    Effect::Inspect::startMessages(argv[0], [](std::string_view message) { std::cerr << message << '\n'; });
     try {
         std::string const page = makePage(QString::fromStdString(stock));
         if (!current.empty())

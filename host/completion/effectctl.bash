@@ -25,18 +25,22 @@ _effectctl()
     local options=--help
     case $command in
         '')
-            _effectctl_words "--help --version list describe schema show archive salvage convert catalogue lut tool"
+            _effectctl_words "--help --version list describe schema show archive check diff patch edit salvage convert catalogue lut tool"
             return ;;
         list) options+=' --json --effects' ;;
         describe) options+=' --json' ;;
         schema) options+=' --items --closed' ;;
         show) options+=' --class --json' ;;
         archive) options+=' --format' ;;
+        check) options+=' --strict --json --jsonl' ;;
+        diff) options+=' --json' ;;
+        patch) options+=' --output' ;;
+        edit) options+=' --set --unset --output --json --jsonl' ;;
         salvage) options+=' --json' ;;
-        convert) options+=' --batch --class --set --resource --track --json' ;;
+        convert) options+=' --batch --class --set --resource --track --video --duration --sample-rate --report --json --jsonl' ;;
         catalogue) options+=' --stock --user --json --convert' ;;
-        lut) options+=' --json' ;;
-        tool) options+=' --class --json' ;;
+        lut) options+=' --json --jsonl' ;;
+        tool) options+=' --class --json --jsonl' ;;
         *) return ;;
     esac
 
@@ -62,6 +66,9 @@ _effectctl()
                 compopt -o nospace 2>/dev/null
                 _effectctl_words "$(_effectctl_keys)"
             fi
+            return ;;
+        --output | -o)
+            _effectctl_files "$word"
             return ;;
         --resource | --track)
             [[ $word == *=* ]] && _effectctl_files "${word#*=}"

@@ -25,8 +25,10 @@ run(ignored "${CPACK}" -G DEB --config "${BUILD_DIR}/CPackConfig.cmake" -B "${wo
 set(linked libboost-serialization1 libqt5core5 libqt5gui5 libgoogle-glog0 "libstdc++6 (>=")
 set(runtime_version "libeditoreffects1 (= ${VERSION})")
 package(libeditoreffects1 ${linked})
-package(libeditoreffects-dev "${runtime_version}" "libboost-serialization-dev" "qtbase5-dev" "nlohmann-json3-dev")
-package(effectctl "${runtime_version}" ${linked})
+set(inspect_version "libeditoreffectsinspect1 (= ${VERSION})")
+package(libeditoreffectsinspect1 "${runtime_version}" libqt5core5 libqt5gui5 libgoogle-glog0 "libstdc++6 (>=")
+package(libeditoreffects-dev "${runtime_version}" "${inspect_version}" "libboost-serialization-dev" "qtbase5-dev" "nlohmann-json3-dev")
+package(effectctl "${runtime_version}" "${inspect_version}" libqt5core5 "libstdc++6 (>=")
 
 # The editor's libraries are this library's own: none of them lies where the linker looks.
 expect_in("${libeditoreffects1}" "/EditorEffects/libEditorEffectsUtils.so.1 -> libEditorEffectsUtils.so.${VERSION}"
@@ -39,10 +41,12 @@ expect_in("${libeditoreffects1}" "./usr/share/EditorEffects/stock/" libeditoreff
 if(EXISTS "${BUILD_DIR}/share/EditorEffects/translations") # not without Qt's tools
   expect_in("${libeditoreffects1}" "./usr/share/EditorEffects/translations/editoreffects_de.qm" libeditoreffects1)
 endif()
-expect_in("${libeditoreffects-dev}" "./usr/include/EditorEffects/effects/Effects.h" libeditoreffects-dev)
+foreach(header IN ITEMS effects/Effects.h inspect/Files.h)
+  expect_in("${libeditoreffects-dev}" "./usr/include/EditorEffects/${header}" libeditoreffects-dev)
+endforeach()
 
 # The loader's cache is updated by a trigger, and by no script.
-foreach(name IN ITEMS libeditoreffects1 libeditoreffects-dev effectctl)
+foreach(name IN ITEMS libeditoreffects1 libeditoreffectsinspect1 libeditoreffects-dev effectctl)
   file(GLOB found "${work}/packages/${name}_*.deb")
   run(ignored dpkg-deb --control "${found}" "${work}/control-${name}")
   file(GLOB scripts "${work}/control-${name}/postinst" "${work}/control-${name}/postrm")
@@ -51,8 +55,10 @@ foreach(name IN ITEMS libeditoreffects1 libeditoreffects-dev effectctl)
   endif()
   expect_in("${${name}}" "./usr/share/doc/${name}/changelog.gz" "${name}")
 endforeach()
-file(READ "${work}/control-libeditoreffects1/triggers" triggers)
-expect_in("${triggers}" "activate-noawait ldconfig" "The triggers of libeditoreffects1")
+foreach(name IN ITEMS libeditoreffects1 libeditoreffectsinspect1)
+  file(READ "${work}/control-${name}/triggers" triggers)
+  expect_in("${triggers}" "activate-noawait ldconfig" "The triggers of ${name}")
+endforeach()
 
 # Debian's own checks. A build tree that was not configured for /usr has no folder for the architecture.
 find_program(LINTIAN lintian)

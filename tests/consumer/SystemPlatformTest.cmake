@@ -4,8 +4,8 @@ include("${CMAKE_CURRENT_LIST_DIR}/Common.cmake")
 
 run(ignored "${CMAKE_COMMAND}" --install "${BUILD_DIR}" --prefix "${work}/host")
 # Of what was installed, only the host's libraries are left.
-file(GLOB ours "${work}/host/${LIBDIR}/libEditorEffects.so*" "${work}/host/${LIBDIR}/cmake/EditorEffects"
-  "${work}/host/${INCLUDEDIR}/effects" "${work}/host/bin")
+file(GLOB ours "${work}/host/${LIBDIR}/libEditorEffects*.so*" "${work}/host/${LIBDIR}/cmake/EditorEffects"
+  "${work}/host/${INCLUDEDIR}/effects" "${work}/host/${INCLUDEDIR}/inspect" "${work}/host/bin")
 file(REMOVE_RECURSE ${ours})
 
 # Not optimised: what matters is that it compiles, links and runs.
@@ -15,8 +15,9 @@ run(ignored "${CMAKE_COMMAND}" -S "${SOURCE_DIR}" -B "${work}/build" -G "${GENER
 run(ignored "${CMAKE_COMMAND}" --build "${work}/build" --parallel 2)
 
 file(GLOB built "${work}/build/lib/*.so")
-if(NOT built STREQUAL "${work}/build/lib/libEditorEffects.so")
-  fail("Only the library itself should have been built, but there are: ${built}")
+set(own "${work}/build/lib/libEditorEffects.so" "${work}/build/lib/libEditorEffectsInspect.so")
+if(NOT built STREQUAL own)
+  fail("Only this project's own libraries should have been built, but there are: ${built}")
 endif()
 expect_conversion("${work}/build/bin/effectctl")
 

@@ -3,8 +3,8 @@
 #include <effects/Geometry.h>
 #include <effects/Holder.h>
 #include <effects/Shaders.h>
-#include <host/Changes.h>
-#include <host/Command.h>
+#include <inspect/Changes.h>
+#include <inspect/Failure.h>
 
 #include "Effectctl.h"
 
@@ -131,18 +131,18 @@ TEST(Set, ARangeIsMadeByAChangeInsideIt)
 {
     std::string const range = "/Effect::VideoEffect/Effect::Object/range";
     Effect::Crop crop;
-    EXPECT_THROW(Host::setParameter(crop, range + "/strat", "5"), Host::Failure);
+    EXPECT_THROW(Effect::Inspect::setParameter(crop, range + "/strat", "5"), Effect::Inspect::Failure);
     EXPECT_FALSE(crop.range);
-    EXPECT_THROW(Host::setParameter(crop, range + "/start", "soon"), Host::Failure);
+    EXPECT_THROW(Effect::Inspect::setParameter(crop, range + "/start", "soon"), Effect::Inspect::Failure);
     EXPECT_FALSE(crop.range);
-    Host::setParameter(crop, range + "/start", "5");
+    Effect::Inspect::setParameter(crop, range + "/start", "5");
     EXPECT_EQ(crop.range, Types::Range(MTime(5), MTime(0)));
-    Host::setParameter(crop, range + "/length", "7");
+    Effect::Inspect::setParameter(crop, range + "/length", "7");
     EXPECT_EQ(crop.range, Types::Range(MTime(5), MTime(7)));
     // What fails later leaves what was there.
-    EXPECT_THROW(Host::setParameter(crop, range + "/length", "0.5"), Host::Failure);
+    EXPECT_THROW(Effect::Inspect::setParameter(crop, range + "/length", "0.5"), Effect::Inspect::Failure);
     EXPECT_EQ(crop.range, Types::Range(MTime(5), MTime(7)));
-    Host::setParameter(crop, "range", "null");
+    Effect::Inspect::setParameter(crop, "range", "null");
     EXPECT_FALSE(crop.range);
     EXPECT_EQ(refusal("Effect::Crop", {(range + "/strat=5").c_str()}),
         "\"range\" has no field \"/strat\"; did you mean \"/start\"?\n");
@@ -151,11 +151,11 @@ TEST(Set, ARangeIsMadeByAChangeInsideIt)
 TEST(Set, PartsOfAResourceAreSetOneByOne)
 {
     Effect::Lut lut("old.cube");
-    Host::setParameter(lut, "/Effect::VideoEffect/Effect::Object/resource/name", "new.cube");
+    Effect::Inspect::setParameter(lut, "/Effect::VideoEffect/Effect::Object/resource/name", "new.cube");
     EXPECT_EQ(lut.resource, Resource::ID("new.cube", Resource::Type::Blob));
-    Host::setParameter(lut, "/Effect::VideoEffect/Effect::Object/resource/type", "3");
+    Effect::Inspect::setParameter(lut, "/Effect::VideoEffect/Effect::Object/resource/type", "3");
     EXPECT_EQ(lut.resource, Resource::ID("new.cube", Resource::Type::Image));
-    Host::setParameter(lut, "resource", R"({"type": 1})");
+    Effect::Inspect::setParameter(lut, "resource", R"({"type": 1})");
     EXPECT_EQ(lut.resource, Resource::ID("new.cube", Resource::Type::Video));
 }
 
@@ -163,15 +163,15 @@ TEST(Set, EffectsInAHolderAreSetByTheirOwnClass)
 {
     Effect::EffectsHolder holder;
     holder.addEffect(nullptr)->addEffect(std::make_unique<Effect::Opacity>());
-    Host::setParameter(holder, "/effects/1/opacity", "0.25");
+    Effect::Inspect::setParameter(holder, "/effects/1/opacity", "0.25");
     EXPECT_EQ(dynamic_cast<Effect::Opacity const &>(*holder.effects[1]).opacity, 0.25);
     try {
-        Host::setParameter(holder, "/effects/0/opacity", "0.25");
+        Effect::Inspect::setParameter(holder, "/effects/0/opacity", "0.25");
         ADD_FAILURE() << "an empty slot was set";
-    } catch (Host::Failure const & failure) {
+    } catch (Effect::Inspect::Failure const & failure) {
         EXPECT_STREQ(failure.what(), "element 0 of \"effects\" is empty");
     }
-    Host::setParameter(holder, "/effects/0", R"({"$meta": {"class": "Effect::Crop"}})");
+    Effect::Inspect::setParameter(holder, "/effects/0", R"({"$meta": {"class": "Effect::Crop"}})");
     EXPECT_NE(dynamic_cast<Effect::Crop const *>(holder.effects[0].get()), nullptr);
     EXPECT_EQ(dynamic_cast<Effect::Opacity const &>(*holder.effects[1]).opacity, 0.25);
 }

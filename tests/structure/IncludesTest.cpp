@@ -1,4 +1,4 @@
-// Dependencies point one way: host -> collection -> (conversions, serialization) -> effects -> platform.
+// Dependencies point one way: host -> inspect -> collection -> (conversions, serialization) -> effects -> platform.
 
 #include <algorithm>
 #include <filesystem>
@@ -67,10 +67,11 @@ std::map<std::string, std::set<std::string>> const allowed{
     {"serialization", {"effects", "serialization"}},
     {"utils", {"effects", "utils"}},
     {"collection", {"effects", "utils", "collection"}},
-    {"host", {"effects", "utils", "collection", "host"}},
+    {"inspect", {"effects", "utils", "collection", "inspect"}},
+    {"host", {"effects", "utils", "inspect", "host"}},
 };
 
-std::set<std::string> const productFolders{"effects", "serialization", "utils", "collection", "host"};
+std::set<std::string> const productFolders{"effects", "serialization", "utils", "collection", "inspect", "host"};
 
 TEST(Includes, ProductFoldersPointOneWay)
 {
