@@ -31,7 +31,7 @@ _effectctl()
         describe) options+=' --json' ;;
         schema) options+=' --items --closed' ;;
         show) options+=' --class --json' ;;
-        archive) options+=' --format' ;;
+        archive) options+=' --to --format --json' ;;
         salvage) options+=' --json' ;;
         convert) options+=' --batch --class --set --resource --track --json' ;;
         catalogue) options+=' --stock --user --json --convert' ;;
@@ -49,7 +49,7 @@ _effectctl()
         --format)
             _effectctl_words "json bin"
             return ;;
-        --stock | --user)
+        --stock | --user | --to)
             compopt -o filenames 2>/dev/null
             mapfile -t COMPREPLY < <(compgen -d -- "$word")
             return ;;
