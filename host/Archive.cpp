@@ -17,12 +17,10 @@ using nlohmann::json;
 
 namespace {
 
-struct Options
+struct Options : FileOptions
 {
-    std::vector<std::string> paths;
     std::string folder;
     std::string form;
-    bool asJson = false;
 };
 
 std::optional<Form> formNamed(std::string const & name)
@@ -53,11 +51,11 @@ std::string convertedFile(std::string const & file, Form form)
 
 void archiveOne(Options const & options)
 {
-    std::string const & to = options.paths[1];
+    std::string const & to = options.arguments[1];
     std::optional<Form> const form = options.form.empty() ? formOf(to) : formNamed(options.form);
     if (!form)
         throw CLI::ValidationError("OUT", to + " ends neither in .json nor in .bin, and there is no --format");
-    writeFile(to, convertedFile(options.paths[0], *form));
+    writeFile(to, convertedFile(options.arguments[0], *form));
 }
 
 /// The name of the file in another form.
@@ -71,7 +69,7 @@ std::string renamed(std::string const & name, Form form)
 void archiveAll(Options const & options)
 {
     Form const form = *formNamed(options.form);
-    std::vector<Target> files = targets(options.paths, effectSuffixes);
+    std::vector<Target> files = targets(options.arguments, effectSuffixes);
     for (Target & file : files)
         if (file.error.empty())
             file.relative = renamed(file.relative, form);
@@ -102,15 +100,18 @@ void archiveAll(Options const & options)
         complain(problem);
     if (options.asJson)
         printJson(documents);
+    else
+        for (json const & document : documents)
+            printIfJson(options, document);
     endWith(problems.empty());
 }
 
 void checkUsage(Options const & options)
 {
-    if (options.folder.empty() && options.paths.size() != 2)
+    if (options.folder.empty() && options.arguments.size() != 2)
         throw CLI::ValidationError("IN and OUT are required, or --to with any number of files");
-    if (options.folder.empty() && options.asJson)
-        throw CLI::ValidationError("--json requires --to");
+    if (options.folder.empty() && (options.asJson || options.asJsonLines))
+        throw CLI::ValidationError("--json and --jsonl require --to");
     if (!options.folder.empty() && options.form.empty())
         throw CLI::ValidationError("--to requires --format");
 }
@@ -122,7 +123,7 @@ void addArchive(CLI::App & program)
     auto * const command = program.add_subcommand("archive", "Turn archives into the other form");
     auto const options = std::make_shared<Options>();
     command
-        ->add_option("PATH", options->paths,
+        ->add_option("PATH", options->arguments,
             "IN and OUT: an archive in either form or item, and the file to write, whose suffix, .json or .bin, says "
             "in "
             "which form; - for standard input and output, which is JSON. With --to, any number of archives and items, "
@@ -135,7 +136,7 @@ void addArchive(CLI::App & program)
     command->add_option("--format", options->form, "The form to write whatever the suffix: json or bin")
         ->option_text("FORM")
         ->check(CLI::IsMember({suffixOf(Form::Json) + 1, suffixOf(Form::Binary) + 1}));
-    command->add_flag("--json", options->asJson, std::string(filesAsJson) + ", with --to");
+    addJson(*command, *options);
     setExamples(*command, "  effectctl archive crop.json crop.bin\n"
                           "  effectctl archive crop.bin crop.json\n"
                           "  effectctl archive - - --format bin < crop.json > crop.bin\n"

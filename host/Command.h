@@ -24,6 +24,7 @@ constexpr int wrongUsage = 2;
 /// @{
 void addArchive(CLI::App & program);
 void addCatalogue(CLI::App & program);
+void addCheck(CLI::App & program);
 void addConvert(CLI::App & program);
 void addDescribe(CLI::App & program);
 void addList(CLI::App & program);

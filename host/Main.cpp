@@ -94,6 +94,7 @@ int main(int argc, char ** argv)
     Host::addSchema(program);
     Host::addShow(program);
     Host::addArchive(program);
+    Host::addCheck(program);
     Host::addSalvage(program);
     Host::addConvert(program);
     Host::addCatalogue(program);

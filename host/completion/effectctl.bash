@@ -25,18 +25,19 @@ _effectctl()
     local options=--help
     case $command in
         '')
-            _effectctl_words "--help --version list describe schema show archive salvage convert catalogue lut tool"
+            _effectctl_words "--help --version list describe schema show archive check salvage convert catalogue lut tool"
             return ;;
         list) options+=' --json --effects' ;;
         describe) options+=' --json' ;;
         schema) options+=' --items --closed' ;;
         show) options+=' --class --json' ;;
-        archive) options+=' --to --format --json' ;;
+        archive) options+=' --to --format --json --jsonl' ;;
+        check) options+=' --strict --json --jsonl' ;;
         salvage) options+=' --json' ;;
-        convert) options+=' --batch --class --set --resource --track --json' ;;
+        convert) options+=' --batch --class --set --resource --track --json --jsonl' ;;
         catalogue) options+=' --stock --user --json --convert' ;;
-        lut) options+=' --json' ;;
-        tool) options+=' --class --json' ;;
+        lut) options+=' --json --jsonl' ;;
+        tool) options+=' --class --json --jsonl' ;;
         *) return ;;
     esac
 

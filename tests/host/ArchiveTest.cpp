@@ -1,4 +1,6 @@
 // effectctl archive --to
+#include <sstream>
+
 #include <EditorModel/EffectArchive.h>
 #include <effects/Effects.h>
 
@@ -60,9 +62,12 @@ TEST(ArchiveTo, GoesOnBehindABadFile)
     folder.write("in/d.json", Effect::Archive::toJson(Effect::Opacity()));
     folder.write("other/d.json", Effect::Archive::toJson(Effect::Crop()));
     folder.write("out/b.bin", "old");
-    auto const run = effectctl(toFolder(folder, "bin", {in(folder, "in"), in(folder, "other"), "-", "--json"}));
+    auto const run = effectctl(toFolder(folder, "bin", {in(folder, "in"), in(folder, "other"), "-", "--jsonl"}));
     EXPECT_EQ(run.status, 1);
-    json const document = json::parse(run.output);
+    json document = json::array();
+    std::istringstream output(run.output);
+    for (std::string line; std::getline(output, line);)
+        document.push_back(json::parse(line));
     ASSERT_EQ(document.size(), 6U);
     EXPECT_EQ(document[0].contains("error"), false);
     EXPECT_THAT(document[1]["error"], HasSubstr("b.json: this is no JSON"));
@@ -92,7 +97,7 @@ TEST(ArchiveTo, NeedsTheFormAndTheFiles)
         "effectctl: IN and OUT are required, or --to with any number of files; see effectctl archive --help\n");
     EXPECT_EQ(effectctl({"archive", "a.json", "b.json", "c.json"}).status, 2);
     EXPECT_EQ(effectctl({"archive", "a.json", "b.json", "--json"}).errors,
-        "effectctl: --json requires --to; see effectctl archive --help\n");
+        "effectctl: --json and --jsonl require --to; see effectctl archive --help\n");
     EXPECT_THAT(folder.files(), ElementsAre());
 }
 
