@@ -96,6 +96,7 @@ int main(int argc, char ** argv)
     Host::addArchive(program);
     Host::addCheck(program);
     Host::addSalvage(program);
+    Host::addRedact(program);
     Host::addConvert(program);
     Host::addCatalogue(program);
     Host::addLut(program);

@@ -25,7 +25,7 @@ _effectctl()
     local options=--help
     case $command in
         '')
-            _effectctl_words "--help --version list describe schema show archive check salvage convert catalogue lut tool"
+            _effectctl_words "--help --version list describe schema show archive check salvage redact convert catalogue lut tool"
             return ;;
         list) options+=' --json --effects' ;;
         describe) options+=' --json' ;;
@@ -34,6 +34,7 @@ _effectctl()
         archive) options+=' --to --format --json --jsonl' ;;
         check) options+=' --strict --json --jsonl' ;;
         salvage) options+=' --json' ;;
+        redact) ;;
         convert) options+=' --batch --class --set --resource --track --json --jsonl' ;;
         catalogue) options+=' --stock --user --json --convert' ;;
         lut) options+=' --json --jsonl' ;;
