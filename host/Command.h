@@ -29,6 +29,7 @@ void addConvert(CLI::App & program);
 void addDescribe(CLI::App & program);
 void addList(CLI::App & program);
 void addLut(CLI::App & program);
+void addNew(CLI::App & program);
 void addRedact(CLI::App & program);
 void addSalvage(CLI::App & program);
 void addSchema(CLI::App & program);

@@ -99,6 +99,7 @@ int main(int argc, char ** argv)
     Host::addRedact(program);
     Host::addConvert(program);
     Host::addCatalogue(program);
+    Host::addNew(program);
     Host::addLut(program);
     Host::addTool(program);
     Host::setExamples(program,

@@ -25,7 +25,7 @@ _effectctl()
     local options=--help
     case $command in
         '')
-            _effectctl_words "--help --version list describe schema show archive check salvage redact convert catalogue lut tool"
+            _effectctl_words "--help --version list describe schema show archive check salvage redact convert catalogue new lut tool"
             return ;;
         list) options+=' --json --effects' ;;
         describe) options+=' --json' ;;
@@ -37,6 +37,7 @@ _effectctl()
         redact) ;;
         convert) options+=' --batch --class --set --resource --track --json --jsonl' ;;
         catalogue) options+=' --stock --user --json --convert' ;;
+        new) options+=' --output --category --set' ;;
         lut) options+=' --json --jsonl' ;;
         tool) options+=' --class --json --jsonl' ;;
         *) return ;;
@@ -73,6 +74,8 @@ _effectctl()
         _effectctl_words "$options"
     elif [[ $command == describe || $command == schema ]]; then
         _effectctl_words "$(_effectctl_classes)"
+    elif [[ $command == new && $previous == new ]]; then
+        _effectctl_words "$(_effectctl_classes --effects)"
     elif [[ $command != list && $command != catalogue ]]; then
         _effectctl_files "$word"
     fi
