@@ -30,11 +30,13 @@ void addDescribe(CLI::App & program);
 void addList(CLI::App & program);
 void addLut(CLI::App & program);
 void addNew(CLI::App & program);
+void addPack(CLI::App & program);
 void addRedact(CLI::App & program);
 void addSalvage(CLI::App & program);
 void addSchema(CLI::App & program);
 void addShow(CLI::App & program);
 void addTool(CLI::App & program);
+void addUnpack(CLI::App & program);
 /// @}
 
 /// Examples at the end of a subcommand's help.

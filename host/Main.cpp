@@ -97,6 +97,8 @@ int main(int argc, char ** argv)
     Host::addCheck(program);
     Host::addSalvage(program);
     Host::addRedact(program);
+    Host::addPack(program);
+    Host::addUnpack(program);
     Host::addConvert(program);
     Host::addCatalogue(program);
     Host::addNew(program);

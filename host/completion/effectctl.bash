@@ -25,7 +25,7 @@ _effectctl()
     local options=--help
     case $command in
         '')
-            _effectctl_words "--help --version list describe schema show archive check salvage redact convert catalogue new lut tool"
+            _effectctl_words "--help --version list describe schema show archive check salvage redact pack unpack convert catalogue new lut tool"
             return ;;
         list) options+=' --json --effects' ;;
         describe) options+=' --json' ;;
@@ -35,6 +35,8 @@ _effectctl()
         check) options+=' --strict --json --jsonl' ;;
         salvage) options+=' --json' ;;
         redact) ;;
+        pack) options+=' --licence --author --version --json' ;;
+        unpack) options+=' --json' ;;
         convert) options+=' --batch --class --set --resource --track --json --jsonl' ;;
         catalogue) options+=' --stock --user --json --convert' ;;
         new) options+=' --output --category --set' ;;
