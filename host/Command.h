@@ -32,6 +32,7 @@ void addLut(CLI::App & program);
 void addNew(CLI::App & program);
 void addPack(CLI::App & program);
 void addRedact(CLI::App & program);
+void addRelink(CLI::App & program);
 void addSalvage(CLI::App & program);
 void addSchema(CLI::App & program);
 void addShow(CLI::App & program);

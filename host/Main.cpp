@@ -97,6 +97,7 @@ int main(int argc, char ** argv)
     Host::addCheck(program);
     Host::addSalvage(program);
     Host::addRedact(program);
+    Host::addRelink(program);
     Host::addPack(program);
     Host::addUnpack(program);
     Host::addConvert(program);

@@ -25,7 +25,7 @@ _effectctl()
     local options=--help
     case $command in
         '')
-            _effectctl_words "--help --version list describe schema show archive check salvage redact pack unpack convert catalogue new lut tool"
+            _effectctl_words "--help --version list describe schema show archive check salvage redact pack unpack relink convert catalogue new lut tool"
             return ;;
         list) options+=' --json --effects' ;;
         describe) options+=' --json' ;;
@@ -37,6 +37,7 @@ _effectctl()
         redact) ;;
         pack) options+=' --licence --author --version --json' ;;
         unpack) options+=' --json' ;;
+        relink) options+=' --in --hashes --json --jsonl' ;;
         convert) options+=' --batch --class --set --resource --track --json --jsonl' ;;
         catalogue) options+=' --stock --user --json --convert' ;;
         new) options+=' --output --category --set' ;;
@@ -54,7 +55,7 @@ _effectctl()
         --format)
             _effectctl_words "json bin"
             return ;;
-        --stock | --user | --to)
+        --stock | --user | --to | --in)
             compopt -o filenames 2>/dev/null
             mapfile -t COMPREPLY < <(compgen -d -- "$word")
             return ;;
