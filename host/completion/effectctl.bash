@@ -25,7 +25,7 @@ _effectctl()
     local options=--help
     case $command in
         '')
-            _effectctl_words "--help --version list describe schema show archive check salvage redact pack unpack relink convert catalogue new lut tool"
+            _effectctl_words "--help --version list describe schema show archive check salvage redact relink pack unpack convert catalogue new lut tool"
             return ;;
         list) options+=' --json --effects' ;;
         describe) options+=' --json' ;;
@@ -35,11 +35,11 @@ _effectctl()
         check) options+=' --strict --json --jsonl' ;;
         salvage) options+=' --json' ;;
         redact) ;;
+        relink) options+=' --in --hashes --json --jsonl' ;;
         pack) options+=' --licence --author --version --json' ;;
         unpack) options+=' --json' ;;
-        relink) options+=' --in --hashes --json --jsonl' ;;
         convert) options+=' --batch --class --set --resource --track --json --jsonl' ;;
-        catalogue) options+=' --stock --user --json --convert' ;;
+        catalogue) options+=' --stock --user --json --long --convert' ;;
         new) options+=' --output --category --set' ;;
         lut) options+=' --json --jsonl' ;;
         tool) options+=' --class --json --jsonl' ;;
