@@ -35,6 +35,7 @@ void addRedact(CLI::App & program);
 void addRelink(CLI::App & program);
 void addSalvage(CLI::App & program);
 void addSchema(CLI::App & program);
+void addSearch(CLI::App & program);
 void addShow(CLI::App & program);
 void addTool(CLI::App & program);
 void addUnpack(CLI::App & program);

@@ -102,6 +102,7 @@ int main(int argc, char ** argv)
     Host::addUnpack(program);
     Host::addConvert(program);
     Host::addCatalogue(program);
+    Host::addSearch(program);
     Host::addNew(program);
     Host::addLut(program);
     Host::addTool(program);

@@ -25,7 +25,7 @@ _effectctl()
     local options=--help
     case $command in
         '')
-            _effectctl_words "--help --version list describe schema show archive check salvage redact relink pack unpack convert catalogue new lut tool"
+            _effectctl_words "--help --version list describe schema show archive check salvage redact relink pack unpack convert catalogue search new lut tool"
             return ;;
         list) options+=' --json --effects' ;;
         describe) options+=' --json' ;;
@@ -40,6 +40,7 @@ _effectctl()
         unpack) options+=' --json' ;;
         convert) options+=' --batch --class --set --resource --track --json --jsonl' ;;
         catalogue) options+=' --stock --user --json --long --convert' ;;
+        search) options+=' --stock --user --json' ;;
         new) options+=' --output --category --set' ;;
         lut) options+=' --json --jsonl' ;;
         tool) options+=' --class --json --jsonl' ;;
@@ -79,7 +80,7 @@ _effectctl()
         _effectctl_words "$(_effectctl_classes)"
     elif [[ $command == new && $previous == new ]]; then
         _effectctl_words "$(_effectctl_classes --effects)"
-    elif [[ $command != list && $command != catalogue ]]; then
+    elif [[ $command != list && $command != catalogue && $command != search ]]; then
         _effectctl_files "$word"
     fi
 }
