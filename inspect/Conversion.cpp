@@ -2,6 +2,7 @@
 
 #include <effects/Effects.h>
 #include <inspect/Text.h>
+#include <utils/EffectUtils.h>
 
 namespace Effect::Inspect {
 
@@ -42,6 +43,15 @@ void addHeld(json const & record, Outcome & outcome)
 }
 
 } // namespace
+
+void registerResources(Effect::Object const & effect)
+{
+    Effect::Utils::registerEffectResource(effect);
+    if (auto const * const holder = dynamic_cast<Effect::EffectsHolder const *>(&effect))
+        for (auto const & held : holder->effects)
+            if (held)
+                registerResources(*held);
+}
 
 json recordOf(RenderHost & host, Effect::Object const & effect, RenderParams const & params)
 {
