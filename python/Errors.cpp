@@ -49,7 +49,7 @@ void set(Finding const & finding, std::string const & file)
             "column"_a = orNone(finding.column), "file"_a = file.empty() ? py::none() : py::object(text(file))));
 }
 
-/// Leaves other exceptions to whoever called.
+/// Other exceptions go on to the caller.
 void translate(std::exception_ptr exception)
 {
     try {
