@@ -22,6 +22,12 @@ def test_the_examples_in_the_module_are_true():
     assert result.failed == 0 and result.attempted >= 15
 
 
+def test_the_examples_in_the_document_are_true(tmp_path, monkeypatch):
+    monkeypatch.chdir(tmp_path)
+    result = doctest.testfile(str(SOURCE / "docs" / "python.md"), module_relative=False)
+    assert result.failed == 0 and result.attempted > 25
+
+
 def test_every_public_name_is_documented():
     for name in editoreffects.__all__:
         thing = getattr(editoreffects, name)
