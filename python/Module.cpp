@@ -10,7 +10,9 @@
 
 #include <inspect/ClassDescription.h>
 #include <inspect/Conversion.h>
+#include <inspect/Differences.h>
 #include <inspect/Documents.h>
+#include <inspect/EffectFile.h>
 #include <inspect/Failure.h>
 #include <inspect/FileNames.h>
 #include <inspect/Files.h>
@@ -99,6 +101,24 @@ py::list checkFiles(std::string const & path)
     return findings;
 }
 
+Effect::Inspect::EffectFile fileOf(EffectHandle const & effect)
+{
+    return Effect::Inspect::EffectFile::parse(effect.file(), effect.toBytes());
+}
+
+py::object diff(EffectHandle const & left, EffectHandle const & right)
+{
+    // One after the other: both may be in one file, and a change that waits for the first would block the second.
+    auto const from = left.unlocked([&] { return fileOf(left); });
+    auto const to = right.unlocked([&] { return fileOf(right); });
+    json patch;
+    {
+        py::gil_scoped_release const released;
+        patch = Effect::Inspect::patchFrom(from, to);
+    }
+    return toPython(patch);
+}
+
 py::dict toPython(CatalogueItem const & item)
 {
     using namespace py::literals;
@@ -176,6 +196,7 @@ PYBIND11_MODULE(_editoreffects, module)
     module.def("schema", schema, "name"_a);
     module.def("convert", convertEffect, "effect"_a, "width"_a, "height"_a, "duration"_a, "sample_rate"_a);
     module.def("check", checkFiles, "path"_a);
+    module.def("diff", diff, "left"_a, "right"_a);
     module.def("catalogue", catalogue, "stock"_a, "user"_a, "progress"_a);
 }
 

@@ -26,8 +26,8 @@ from .errors import (ArchiveError, Error, FileError, LutError, MissingFileError,
 
 __all__ = [
     "ArchiveError", "Catalogue", "Curve", "Effect", "Error", "FileError", "Item", "Lut", "LutError", "MissingFileError",
-    "ParameterError", "UnknownClass", "UnknownParameter", "check", "classes", "convert", "create", "describe", "from_binary",
-    "from_json", "load", "lut", "save", "schema"
+    "ParameterError", "UnknownClass", "UnknownParameter", "check", "classes", "convert", "create", "describe", "diff",
+    "from_binary", "from_json", "load", "lut", "save", "schema"
 ]
 
 Path = Union[str, "os.PathLike[str]"]
@@ -200,6 +200,20 @@ def check(path: Path) -> List[Document]:
     for finding in findings:
         finding["file"] = os.fsdecode(finding["file"])
     return findings
+
+
+def diff(a: Union[Effect, Path, bytes], b: Union[Effect, Path, bytes]) -> List[Document]:
+    """How two effects differ: a patch (RFC 6902) from the document of one to that of the other; empty if they do not.
+
+    Args:
+        a: an effect, or what `load` takes. Raises like that.
+        b: the same.
+
+    >>> diff(create("Effect::Blur"), create("Effect::Blur", intensity=0.5))
+    [{'op': 'replace', 'path': '/Effect::VideoEffect/Effect::Object/intensity', 'value': 0.5}]
+    """
+    left, right = (source if isinstance(source, Effect) else load(source) for source in (a, b))
+    return _editoreffects.diff(left, right)
 
 
 def lut(path: Path) -> Lut:
