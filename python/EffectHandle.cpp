@@ -58,10 +58,11 @@ EffectHandle::EffectHandle(std::shared_ptr<Source> source)
     , m_info(classOf(m_source->effect()))
 {}
 
-EffectHandle::EffectHandle(std::shared_ptr<EffectHandle> holder, Parameter const & list, std::size_t index)
+EffectHandle::EffectHandle(
+    std::shared_ptr<EffectHandle> holder, Parameter const & list, std::size_t index, Effect::Object const & effect)
     : m_holder(std::move(holder))
     , m_slot(&list, index)
-    , m_info(classOf(*effectAt(m_holder->effect(), list, index)))
+    , m_info(classOf(effect))
 {}
 
 Effect::Object const & EffectHandle::effect() const
@@ -91,21 +92,25 @@ py::object EffectHandle::value(Parameter const & parameter)
 }
 
 /// An effect that Python holds already is the same object again.
-std::shared_ptr<EffectHandle> EffectHandle::heldAt(Parameter const & list, std::size_t index)
+std::shared_ptr<EffectHandle> EffectHandle::heldAt(
+    Parameter const & list, std::size_t index, Effect::Object const & held)
 {
     std::weak_ptr<EffectHandle> & known = m_held[{&list, index}];
-    std::shared_ptr<EffectHandle> held = known.lock();
-    if (!held)
-        known = held = std::make_shared<EffectHandle>(shared_from_this(), list, index);
-    return held;
+    std::shared_ptr<EffectHandle> handle = known.lock();
+    if (!handle)
+        known = handle = std::make_shared<EffectHandle>(shared_from_this(), list, index, held);
+    return handle;
 }
 
 py::object EffectHandle::heldIn(Parameter const & list)
 {
-    std::size_t const count = Effect::Schema::elementCount(effect(), list);
+    Effect::Object const & holder = effect();
+    std::size_t const count = Effect::Schema::elementCount(holder, list);
     py::list effects(count);
-    for (std::size_t index = 0; index < count; ++index)
-        effects[index] = effectAt(effect(), list, index) ? py::cast(heldAt(list, index)) : py::none();
+    for (std::size_t index = 0; index < count; ++index) {
+        Effect::Object const * const held = effectAt(holder, list, index);
+        effects[index] = held ? py::cast(heldAt(list, index, *held)) : py::none();
+    }
     return effects;
 }
 

@@ -25,7 +25,8 @@ class EffectHandle : public std::enable_shared_from_this<EffectHandle>
 public:
     explicit EffectHandle(std::shared_ptr<Source> source);
     /// For `heldAt`.
-    EffectHandle(std::shared_ptr<EffectHandle> holder, Effect::Schema::Parameter const & list, std::size_t index);
+    EffectHandle(std::shared_ptr<EffectHandle> holder, Effect::Schema::Parameter const & list, std::size_t index,
+        Effect::Object const & effect);
 
     Effect::Schema::Class const & info() const { return m_info; }
     Effect::Object const & effect() const;
@@ -64,7 +65,8 @@ private:
     using Slot = std::pair<Effect::Schema::Parameter const *, std::size_t>;
 
     std::shared_ptr<Source> const & source() const { return m_holder ? m_holder->source() : m_source; }
-    std::shared_ptr<EffectHandle> heldAt(Effect::Schema::Parameter const & list, std::size_t index);
+    std::shared_ptr<EffectHandle> heldAt(
+        Effect::Schema::Parameter const & list, std::size_t index, Effect::Object const & held);
     pybind11::object heldIn(Effect::Schema::Parameter const & list);
     Effect::Object & change();
     void setHeld(Effect::Schema::Parameter const & list, nlohmann::json const & documents);

@@ -68,7 +68,7 @@ def test_the_interpreter_goes_on_while_a_file_is_read():
 
 
 def test_a_change_waits_for_a_save_in_another_thread():
-    holder = editoreffects.load(holder_of(1000))
+    holder = editoreffects.load(holder_of(300))
     effects = holder.effects
     isDone = threading.Event()
 
@@ -76,9 +76,9 @@ def test_a_change_waits_for_a_save_in_another_thread():
         number = 0
         while not isDone.is_set():
             number += 1
-            effects[number % 1000].hue = number / 7
+            effects[number % 300].hue = number / 7
             holder.tag = str(number)
-            holder.effects = holder.effects[:990] + [None] * (number % 10)
+            holder.effects = holder.effects[:290] + [None] * (number % 10)
 
     changer = threading.Thread(target=change)
     changer.start()
