@@ -1,8 +1,9 @@
 # Installation, the packages that find_package and pkg-config find, and Debian packages.
 #
-# Four components: `runtime` (the library, the editor's libraries in a folder of their own, the stock content, the
+# Five components: `runtime` (the library, the editor's libraries in a folder of their own, the stock content, the
 # translations), `inspect` (the library that looks into effects and their files), `development` (headers, link names, package
-# descriptions) and `tool` (effectctl). Nothing that is installed knows where: a prefix can be moved.
+# descriptions), `tool` (effectctl) and, where it is built, `python` (the Python module). Nothing that is installed knows
+# where: a prefix can be moved.
 include(CMakePackageConfigHelpers)
 
 # The way from one installed folder to another.
@@ -97,13 +98,31 @@ if(TARGET effectctl)
   install(FILES host/completion/_effectctl DESTINATION "${CMAKE_INSTALL_DATADIR}/zsh/site-functions" COMPONENT tool)
 endif()
 
+# --- The Python module -------------------------------------------------------
+
+if(TARGET editoreffects_python)
+  set(python_package_dir "${EDITOREFFECTS_PYTHON_DIR}/editoreffects")
+  editor_installed_path(lib_from_python "${python_package_dir}" "${CMAKE_INSTALL_LIBDIR}")
+  editor_installed_path(platform_from_python "${python_package_dir}" "${EDITOR_PLATFORM_LIBDIR}")
+  set_target_properties(editoreffects_python PROPERTIES
+    INSTALL_RPATH "$ORIGIN/${lib_from_python};$ORIGIN/${platform_from_python}"
+    INSTALL_RPATH_USE_LINK_PATH ${platform_elsewhere})
+  install(TARGETS editoreffects_python LIBRARY DESTINATION "${python_package_dir}" COMPONENT python)
+  install(FILES ${EDITOREFFECTS_PYTHON_SOURCES} DESTINATION "${python_package_dir}" COMPONENT python)
+endif()
+
 # --- Debian packages: cmake --workflow --preset package ------------------------
 
 set(runtime_package "libeditoreffects${PROJECT_VERSION_MAJOR}")
 set(inspect_package "libeditoreffectsinspect${PROJECT_VERSION_MAJOR}")
 set(development_package "libeditoreffects-dev")
 set(tool_package "effectctl")
-foreach(component IN ITEMS runtime inspect development tool)
+set(python_package "python3-editoreffects")
+set(components runtime inspect development tool)
+if(TARGET editoreffects_python)
+  list(APPEND components python)
+endif()
+foreach(component IN LISTS components)
   install(FILES cmake/debian/copyright
     DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/${${component}_package}" COMPONENT ${component})
 endforeach()
@@ -117,7 +136,7 @@ set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "")
 set(CPACK_RESOURCE_FILE_LICENSE "${PROJECT_SOURCE_DIR}/LICENSE")
 set(CPACK_PACKAGE_DIRECTORY "${PROJECT_BINARY_DIR}/packages")
 set(CPACK_STRIP_FILES ON)
-set(CPACK_COMPONENTS_ALL runtime inspect development tool)
+set(CPACK_COMPONENTS_ALL ${components})
 set(CPACK_DEB_COMPONENT_INSTALL ON)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 # The packages come out of this tree, so their version has no Debian revision.
@@ -161,6 +180,19 @@ set(CPACK_DEBIAN_TOOL_PACKAGE_SECTION video)
 set(CPACK_DEBIAN_TOOL_DESCRIPTION "command-line host of the effects library of a video editor
 Lists, shows, archives and converts effects, and checks the stock catalogue.")
 set(CPACK_DEBIAN_TOOL_PACKAGE_DEPENDS "${this_runtime}, ${this_inspect}")
+
+if(TARGET editoreffects_python)
+  set(CPACK_DEBIAN_PYTHON_PACKAGE_NAME "${python_package}")
+  set(CPACK_DEBIAN_PYTHON_PACKAGE_SECTION python)
+  set(CPACK_DEBIAN_PYTHON_DESCRIPTION "effects library of a non-linear video editor (Python 3)
+Reads, changes, checks, converts and writes effects, and describes their
+parameters.")
+  # The compiled part is for one version of the interpreter.
+  math(EXPR next_python "${Python_VERSION_MINOR} + 1")
+  string(JOIN ", " CPACK_DEBIAN_PYTHON_PACKAGE_DEPENDS "${this_runtime}" "${this_inspect}"
+    "python3 (>= ${Python_VERSION_MAJOR}.${Python_VERSION_MINOR})" "python3 (<< ${Python_VERSION_MAJOR}.${next_python})")
+  set(CPACK_DEBIAN_PYTHON_PACKAGE_SUGGESTS "python3-numpy")
+endif()
 
 if(PROJECT_IS_TOP_LEVEL)
   include(CPack)

@@ -108,16 +108,6 @@ void printRecords(json const & record)
     }
 }
 
-/// As the catalogue does with its items. What is registered already, such as by `--resource`, stays.
-void registerResources(Effect::Object const & effect)
-{
-    Effect::Utils::registerEffectResource(effect);
-    if (auto const * const holder = dynamic_cast<Effect::EffectsHolder const *>(&effect))
-        for (auto const & held : holder->effects)
-            if (held)
-                registerResources(*held);
-}
-
 void convertFiles(RenderHost & host, Options const & options)
 {
     auto const files = expand(options.arguments, effectSuffixes);

@@ -3,6 +3,8 @@
 #include <effects/Holder.h>
 #include <inspect/Report.h>
 #include <inspect/Resources.h>
+#include <inspect/Text.h>
+#include <utils/EffectUtils.h>
 
 namespace Effect::Inspect {
 
@@ -60,6 +62,15 @@ void addHeld(EffectsHolder const & holder, json const & record, Outcome & outcom
 }
 
 } // namespace
+
+void registerResources(Effect::Object const & effect)
+{
+    Effect::Utils::registerEffectResource(effect);
+    if (auto const * const holder = dynamic_cast<Effect::EffectsHolder const *>(&effect))
+        for (auto const & held : holder->effects)
+            if (held)
+                registerResources(*held);
+}
 
 json recordOf(RenderHost & host, Effect::Object const & effect, RenderParams const & params)
 {

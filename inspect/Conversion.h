@@ -32,6 +32,10 @@ struct Outcome
     std::vector<std::string> problems; ///< why it is incomplete or failed
 };
 
+/// Registers the files that the effect and the effects in it refer to, as the catalogue does with its items. What is
+/// registered already stays.
+EFFECTS_INSPECT_API void registerResources(Effect::Object const & effect);
+
 /// The record of an effect, as `RenderHost::convert` describes it. That of a holder has those of the effects inside as
 /// well, each converted on its own: `effects`, null for an empty slot. Where `params` ask for it, each has a `report`
 /// by `reportOf`.

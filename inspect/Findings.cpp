@@ -45,17 +45,24 @@ json toJson(std::vector<Finding> const & findings)
     return all;
 }
 
+std::string toText(Finding const & finding)
+{
+    std::string text = finding.message;
+    if (finding.pointer && !finding.pointer->empty())
+        text += ", at " + *finding.pointer;
+    if (!finding.suggestion.empty())
+        text += "; did you mean \"" + finding.suggestion + "\"?";
+    return text;
+}
+
+std::string placeIn(std::string const & file, Finding const & finding)
+{
+    return finding.line ? file + ':' + std::to_string(*finding.line) + ':' + std::to_string(*finding.column) : file;
+}
+
 std::string toLine(std::string const & file, Finding const & finding)
 {
-    std::string line = file;
-    if (finding.line)
-        line += ':' + std::to_string(*finding.line) + ':' + std::to_string(*finding.column);
-    line += std::string(": ") + toText(finding.severity) + ": " + finding.message;
-    if (finding.pointer && !finding.pointer->empty())
-        line += ", at " + *finding.pointer;
-    if (!finding.suggestion.empty())
-        line += "; did you mean \"" + finding.suggestion + "\"?";
-    return line;
+    return placeIn(file, finding) + ": " + toText(finding.severity) + ": " + toText(finding);
 }
 
 } // namespace Effect::Inspect

@@ -21,6 +21,12 @@ EFFECTS_INSPECT_API nlohmann::json toJson(Effect::Archive::Finding const & findi
 /// An array of such.
 EFFECTS_INSPECT_API nlohmann::json toJson(std::vector<Effect::Archive::Finding> const & findings);
 
+/// "an object is expected, found null, at /effects/0".
+EFFECTS_INSPECT_API std::string toText(Effect::Archive::Finding const & finding);
+
+/// "part.json:3:7", or the file alone.
+EFFECTS_INSPECT_API std::string placeIn(std::string const & file, Effect::Archive::Finding const & finding);
+
 /// "part.json:3:7: error: ..., at /effects/0", as compilers write it.
 EFFECTS_INSPECT_API std::string toLine(std::string const & file, Effect::Archive::Finding const & finding);
 

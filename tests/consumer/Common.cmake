@@ -42,3 +42,20 @@ function(expect_stock tool)
     fail("The installed tool should find the stock content, but printed:\n${text}")
   endif()
 endfunction()
+
+# The Python module, where it was built, works from the folder in which it was installed.
+function(expect_python_module folder)
+  if(NOT PYTHON)
+    return()
+  endif()
+  file(WRITE "${work}/use.py" "import editoreffects
+assert editoreffects.__file__.startswith('${folder}/'), editoreffects.__file__
+effect = editoreffects.create('Effect::Blur', intensity=20)
+print(editoreffects.convert(effect)['settings'][0]['class'], len(editoreffects.Catalogue(user='.')))
+")
+  run(text "${CMAKE_COMMAND}" -E env --unset=EDITOR_STOCK_DIR "PYTHONPATH=${folder}" PYTHONDONTWRITEBYTECODE=1
+    "${PYTHON}" "${work}/use.py")
+  if(NOT text MATCHES "^SettingsEffectBlurGaussian [1-9][0-9][0-9]\n$")
+    fail("The installed module should convert an effect and find the stock content, but printed:\n${text}")
+  endif()
+endfunction()

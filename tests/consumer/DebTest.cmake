@@ -29,6 +29,12 @@ set(inspect_version "libeditoreffectsinspect1 (= ${VERSION})")
 package(libeditoreffectsinspect1 "${runtime_version}" libqt5core5 libqt5gui5 libgoogle-glog0 "libstdc++6 (>=")
 package(libeditoreffects-dev "${runtime_version}" "${inspect_version}" "libboost-serialization-dev" "qtbase5-dev" "nlohmann-json3-dev")
 package(effectctl "${runtime_version}" "${inspect_version}" libqt5core5 "libstdc++6 (>=")
+set(names libeditoreffects1 libeditoreffectsinspect1 libeditoreffects-dev effectctl)
+if(PYTHON)
+  package(python3-editoreffects "${runtime_version}" "${inspect_version}" "python3 (>= 3." "python3 (<< 3." libqt5core5)
+  expect_in("${python3-editoreffects}" "./usr/lib/python3/dist-packages/editoreffects/py.typed" python3-editoreffects)
+  list(APPEND names python3-editoreffects)
+endif()
 
 # The editor's libraries are this library's own: none of them lies where the linker looks.
 expect_in("${libeditoreffects1}" "/EditorEffects/libEditorEffectsUtils.so.1 -> libEditorEffectsUtils.so.${VERSION}"
@@ -46,7 +52,7 @@ foreach(header IN ITEMS effects/Effects.h inspect/Files.h)
 endforeach()
 
 # The loader's cache is updated by a trigger, and by no script.
-foreach(name IN ITEMS libeditoreffects1 libeditoreffectsinspect1 libeditoreffects-dev effectctl)
+foreach(name IN LISTS names)
   file(GLOB found "${work}/packages/${name}_*.deb")
   run(ignored dpkg-deb --control "${found}" "${work}/control-${name}")
   file(GLOB scripts "${work}/control-${name}/postinst" "${work}/control-${name}/postrm")
@@ -72,4 +78,5 @@ endif()
 
 expect_stock("${work}/root/usr/bin/effectctl")
 expect_conversion("${work}/root/usr/bin/effectctl")
+expect_python_module("${work}/root/usr/lib/python3/dist-packages")
 file(REMOVE_RECURSE "${work}")

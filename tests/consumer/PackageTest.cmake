@@ -51,6 +51,7 @@ function(use_package prefix)
     fail("The installed tool should print the archive of an Effect::Crop, but printed:\n${text}")
   endif()
   expect_stock("${prefix}/bin/effectctl")
+  expect_python_module("${prefix}/${PYTHON_DIR}")
 endfunction()
 
 # No installed text names a place that the user of the package does not have.

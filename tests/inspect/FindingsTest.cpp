@@ -25,6 +25,9 @@ TEST(Findings, EveryMemberHasAKey)
         {"line", 2}, {"column", 5}, {"message", "no such key"}, {"suggestion", "size"}};
     EXPECT_EQ(toJson(finding), whole);
     EXPECT_EQ(toLine("a.json", finding), "a.json:2:5: warning: no such key, at /soze; did you mean \"size\"?");
+    EXPECT_EQ(toText(finding), "no such key, at /soze; did you mean \"size\"?");
+    EXPECT_EQ(placeIn("a.json", finding), "a.json:2:5");
+    EXPECT_EQ(placeIn("a.json", Finding()), "a.json");
     EXPECT_EQ(toJson(std::vector{finding, finding}), json::array({whole, whole}));
 }
 

@@ -1,4 +1,5 @@
-// Dependencies point one way: host -> inspect -> collection -> (conversions, serialization) -> effects -> platform.
+// Dependencies point one way: host, python -> inspect -> collection -> (conversions, serialization) -> effects ->
+// platform.
 
 #include <algorithm>
 #include <filesystem>
@@ -69,9 +70,11 @@ std::map<std::string, std::set<std::string>> const allowed{
     {"collection", {"effects", "utils", "collection"}},
     {"inspect", {"effects", "utils", "collection", "inspect"}},
     {"host", {"effects", "utils", "inspect", "host"}},
+    {"python", {"effects", "utils", "inspect", "python"}},
 };
 
-std::set<std::string> const productFolders{"effects", "serialization", "utils", "collection", "inspect", "host"};
+std::set<std::string> const productFolders{
+    "effects", "serialization", "utils", "collection", "inspect", "host", "python"};
 
 TEST(Includes, ProductFoldersPointOneWay)
 {
