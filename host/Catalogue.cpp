@@ -1,24 +1,20 @@
-#include <chrono>
 #include <iostream>
 
 #include <unistd.h>
 
 #include <EditorModel/CollectionProvider.h>
-#include <EditorSettings/Settings.h>
 #include <EditorUtil/ItemStorage.h>
 #include <inspect/Conversion.h>
-#include <inspect/FileNames.h>
 #include <inspect/Files.h>
 #include <inspect/Messages.h>
 #include <inspect/RenderHost.h>
 #include <inspect/Text.h>
 
+#include "CatalogueFolders.h"
 #include "Command.h"
 #include "FileCommand.h"
 #include "Output.h"
 #include "Progress.h"
-
-#include <QFileInfo>
 
 namespace Host {
 
@@ -26,10 +22,8 @@ using nlohmann::json;
 
 namespace {
 
-struct Options
+struct Options : CatalogueFolders
 {
-    std::string stock;
-    std::string user;
     bool asJson = false;
     bool convert = false;
 };
@@ -46,17 +40,6 @@ struct Summary
     std::size_t incomplete = 0;   ///< converted without something that is missing or broken
     std::size_t notConverted = 0; ///< which should have been
 };
-
-/// Waits for the deliveries.
-void waitForItems(EditorCollection::ItemStorage & storage)
-{
-    constexpr std::chrono::milliseconds refresh(100);
-    Progress progress("Reading items");
-    while (!storage.waitForAll(refresh)) {
-        auto const counts = storage.progress();
-        progress.show(counts.delivered + counts.failed, counts.found);
-    }
-}
 
 void count(Outcome const & outcome, Summary & summary)
 {
@@ -180,43 +163,9 @@ void printSummary(Summary const & summary, bool areConverted)
     std::cout << "; " << counted(summary.unreadable, "file") << " could not be read\n";
 }
 
-/// Throws a `Failure` for what is no folder that items can be read from.
-void checkFolder(QString const & path)
-{
-    QFileInfo const info(path);
-    if (!info.isDir())
-        throw Failure(toBytes(path) + ": no such folder");
-    // The storage takes folders as texts.
-    QString const absolute = info.absoluteFilePath();
-    if (QString::fromUtf8(absolute.toUtf8()) != absolute)
-        throw Failure(toBytes(path) + ": items cannot be read from a folder whose name is not UTF-8");
-}
-
-/// What is wrong with the stock folder as a whole; empty when nothing is. The storage takes a collection's folder that
-/// is missing for one without items, so a wrong stock folder would pass for an empty catalogue.
-std::string stockProblem()
-{
-    std::vector<std::string> names;
-    for (QString const & path : {Settings::stockVideoEffectsPath(), Settings::stockOverlayEffectsPath(),
-             Settings::stockAudioEffectsPath(), Settings::stockAudioEnhancePath(), Settings::stockColorFiltersPath(),
-             Settings::stockLutEffectsPath(), Settings::stockPipEffectsPath(), Settings::stockMasksPath()}) {
-        if (QFileInfo(path).isDir())
-            return {};
-        names.push_back(toBytes(QFileInfo(path).fileName()));
-    }
-    return toBytes(Settings::stockRoot()) + ": this is no stock folder, as it holds none of " + joined(names, ", ");
-}
-
 void catalogue(Options const & options)
 {
-    for (auto const & [path, set] :
-        {std::pair(options.stock, &Settings::setStockRoot), std::pair(options.user, &Settings::setUserRoot)}) {
-        if (!path.empty())
-            checkFolder(fileName(path));
-        set(fileName(path));
-    }
-    checkFolder(Settings::stockRoot());
-
+    useFolders(options);
     EditorCollection::ItemStorage storage;
     RenderHost host(storage);
     waitForItems(storage);
@@ -264,14 +213,7 @@ void addCatalogue(CLI::App & program)
 {
     auto * const command = program.add_subcommand("catalogue", "The collections of stock and user effects");
     auto const options = std::make_shared<Options>();
-    command
-        ->add_option("--stock", options->stock,
-            "Stock folder; unless given, that of the environment's EDITOR_STOCK_DIR, else the installed one")
-        ->option_text("DIR");
-    command
-        ->add_option("--user", options->user,
-            "User's folder; unless given, that of the environment's EDITOR_USER_DIR, else the user's data folder")
-        ->option_text("DIR");
+    addFolders(*command, *options);
     command->add_flag("--json", options->asJson, "Print one JSON document: the collections and the summary");
     command->add_flag("--convert", options->convert,
         "Convert every item as well, and report those that did not or not wholly convert");

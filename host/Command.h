@@ -26,6 +26,7 @@ void addArchive(CLI::App & program);
 void addCatalogue(CLI::App & program);
 void addConvert(CLI::App & program);
 void addDescribe(CLI::App & program);
+void addGallery(CLI::App & program);
 void addList(CLI::App & program);
 void addLut(CLI::App & program);
 void addSalvage(CLI::App & program);

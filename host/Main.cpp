@@ -97,6 +97,7 @@ int main(int argc, char ** argv)
     Host::addSalvage(program);
     Host::addConvert(program);
     Host::addCatalogue(program);
+    Host::addGallery(program);
     Host::addLut(program);
     Host::addTool(program);
     Host::setExamples(program,

@@ -25,7 +25,7 @@ _effectctl()
     local options=--help
     case $command in
         '')
-            _effectctl_words "--help --version list describe schema show archive salvage convert catalogue lut tool"
+            _effectctl_words "--help --version list describe schema show archive salvage convert catalogue gallery lut tool"
             return ;;
         list) options+=' --json --effects' ;;
         describe) options+=' --json' ;;
@@ -35,6 +35,7 @@ _effectctl()
         salvage) options+=' --json' ;;
         convert) options+=' --batch --class --set --resource --track --json' ;;
         catalogue) options+=' --stock --user --json --convert' ;;
+        gallery) options+=' --stock --user' ;;
         lut) options+=' --json' ;;
         tool) options+=' --class --json' ;;
         *) return ;;
@@ -71,6 +72,9 @@ _effectctl()
         _effectctl_words "$options"
     elif [[ $command == describe || $command == schema ]]; then
         _effectctl_words "$(_effectctl_classes)"
+    elif [[ $command == gallery ]]; then
+        compopt -o filenames 2>/dev/null
+        mapfile -t COMPREPLY < <(compgen -d -- "$word")
     elif [[ $command != list && $command != catalogue ]]; then
         _effectctl_files "$word"
     fi
