@@ -157,7 +157,7 @@
             'The render engine does not execute this effect by itself.';
         const code = element('code');
         const note = element('p', {class: 'facts'});
-        const section = element('section', {class: 'record'}, element('h4', {}, 'Settings record'), note,
+        const section = element('section', {class: 'settings'}, element('h4', {}, 'Settings record'), note,
             element('pre', {tabindex: '0', 'aria-label': 'Settings record'}, code));
         section.update = () => {
             const shown = state.settings();

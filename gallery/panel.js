@@ -149,6 +149,14 @@ Gallery.panel = (() => {
         return body;
     }
 
+    function record(parameter, value, change) {
+        return element('fieldset', {}, element('legend', {}, parameter.label), ...parameter.elements.map(inner =>
+            row(inner, () => Gallery.State.read(value, inner), next => {
+                Gallery.State.write(value, inner, next);
+                change(value);
+            })));
+    }
+
     // One parameter. `read` gives its value, `change` takes a new one.
     function row(parameter, read, change) {
         const id = `control-${++ids}`;
@@ -158,6 +166,7 @@ Gallery.panel = (() => {
         const isSingle = control && value !== null && value !== undefined;
         const head = element(isSingle ? 'label' : 'p', {class: 'row-label', for: isSingle ? id : null}, parameter.label);
         const body = parameter.kind === 'list' ? [list(parameter, value || [], change)] :
+            parameter.kind === 'record' && value ? [record(parameter, value, change)] :
             isSingle ? control(parameter, value, id, change) : [element('p', {class: 'facts'}, 'none')];
         const described = parameter.description && parameter.description !== parameter.label ?
             element('p', {class: 'row-text'}, parameter.description) : null;

@@ -62,11 +62,11 @@ Gallery.text = {
         return element;
     },
 
-    // A number in as few digits as a reader wants: at most four significant ones.
+    // A number in as few digits as a reader wants: of a fraction at most four significant ones.
     number(value) {
         if (typeof value !== 'number')
             return String(value);
-        const rounded = Number(value.toPrecision(4));
+        const rounded = Number.isInteger(value) ? value : Number(value.toPrecision(4));
         return String(rounded).replace('-', '\u2212');
     },
 
