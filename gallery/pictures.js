@@ -322,8 +322,8 @@ Gallery.pictures = (() => {
         const shape = size[1] === 1 && size[2] === 1 ? `${size[0]} entries` : size.join(' \u00d7 ');
         return element('div', {class: 'more', 'data-table': part},
             ...pair(Gallery.testcard.canvas(320, 180), 'Test card'), ...pair(Gallery.lut.chart(320, 96), 'Colours'),
-            element('figure', {}, Gallery.lut.curves(loaded), element('figcaption', {}, 'Greys, channel by channel')),
-            element('figure', {class: 'cube'}, cube, element('figcaption', {},
+            element('figure', {class: 'square'}, Gallery.lut.curves(loaded), element('figcaption', {}, 'Greys, channel by channel')),
+            element('figure', {class: 'square'}, cube, element('figcaption', {},
                 `Cube of colours: ${format}, ${shape}${title ? `, \u201c${title}\u201d` : ''}`)));
     }
 
