@@ -36,7 +36,7 @@
                 element('p', {class: 'description'}, card.description),
                 element('ul', {class: 'tags', 'aria-label': 'Tag and categories'},
                     ...card.tag ? [element('li', {class: 'tag'}, card.tag)] : [],
-                    ...card.categories.map(name => element('li', {}, category(name))))));
+                    ...card.categories.map((name, index) => element('li', {}, card.categoryTexts[index] || category(name))))));
         card.article = article;
         return article;
     }
@@ -418,15 +418,17 @@
             'drawn from their own data.';
         for (const name of new Set(cards.map(card => card.family)))
             familyFilter.append(element('option', {value: name}, family(name)));
-        for (const name of [...new Set(cards.flatMap(card => card.categories))].sort())
-            categoryFilter.append(element('option', {value: name}, category(name)));
+        const labels = new Map(cards.flatMap(card =>
+            card.categories.map((name, index) => [name, card.categoryTexts[index] || category(name)])));
+        for (const [name, label] of [...labels].sort((a, b) => compare(a[1], b[1])))
+            categoryFilter.append(element('option', {value: name}, label));
         for (const control of controls)
             control.addEventListener('input', apply);
         find('reset').addEventListener('click', reset);
         apply();
         await drawn();
         const scripts = ['testcard.js', 'isf.js', 'lut.js', 'charts.js', 'pictures.js', 'panel.js'];
-        await Promise.all(['classes', 'documents', 'records', 'pictures'].map(Gallery.part));
+        await Promise.all(['classes', 'documents', 'records', 'pictures', 'synonyms'].map(Gallery.part));
         for (const script of scripts)
             await Gallery.load(script);
         for (const card of cards)

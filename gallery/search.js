@@ -44,8 +44,9 @@ Gallery.search = (() => {
 
     function fieldsOf(card) {
         if (!index.has(card))
-            index.set(card, [[8, `${nameOf(card)} ${card.tag}`], [6, card.class], [4, card.categories.join(' ')],
-                [2, card.description]].map(([weight, text]) => [weight, wordsOf(text)]));
+            index.set(card, [[8, `${nameOf(card)} ${card.tag}`], [6, card.class],
+                [4, [...card.categories, ...card.categoryTexts].join(' ')], [2, card.description]]
+                .map(([weight, text]) => [weight, wordsOf(text)]));
         return index.get(card);
     }
 
@@ -55,8 +56,10 @@ Gallery.search = (() => {
         let best = 0;
         const meanings = (Gallery.data.synonyms || []).filter(row => row.includes(word)).flat();
         for (const [weight, words] of fields) {
+            // Sentences have many short words that are like others.
+            const isText = weight === 2;
             for (const other of words)
-                best = Math.max(best, weight * likeness(word, other, isUnfinished));
+                best = Math.max(best, weight * (isText ? Number(word === other) : likeness(word, other, isUnfinished)));
             if (meanings.some(meaning => words.includes(meaning)))
                 best = Math.max(best, weight * sameMeaning);
         }

@@ -79,7 +79,7 @@ Gallery.text = {
         return !unit || unit === 'engine' ? text : `${text} ${unit}`;
     },
 
-    // "category_lut_warm" is "Lut warm".
+    // For a category that the editor has no text for: "category_my_looks" is "My looks".
     category(name) {
         const words = name.replace(/^category_/, '').replace(/_/g, ' ');
         return words.charAt(0).toUpperCase() + words.slice(1);

@@ -1,16 +1,12 @@
 #include <iostream>
 
-#include <unistd.h>
-
 #include <EditorModel/CollectionProvider.h>
-#include <EditorUtil/ItemStorage.h>
+#include <inspect/Catalogue.h>
 #include <inspect/Conversion.h>
-#include <inspect/Files.h>
 #include <inspect/Messages.h>
-#include <inspect/RenderHost.h>
 #include <inspect/Text.h>
 
-#include "CatalogueFolders.h"
+#include "CatalogueOptions.h"
 #include "Command.h"
 #include "FileCommand.h"
 #include "Output.h"
@@ -22,10 +18,12 @@ using nlohmann::json;
 
 namespace {
 
-struct Options : CatalogueFolders
+struct Options
 {
+    CatalogueFolders folders;
     bool asJson = false;
     bool convert = false;
+    bool isLong = false;
 };
 
 /// How many items there are of which kind.
@@ -108,34 +106,47 @@ json describe(EditorCollection::IItem const & item)
         {"file", asText(item.file())}};
 }
 
-void printCollection(json const & collection)
+/// Quoted where it is needed, as a file may put anything into its texts.
+std::string cell(std::string const & text)
 {
-    json const & items = collection["items"];
-    std::cout << painted(Look::Heading, collection["name"]) << ": " << counted(items.size(), "item") << '\n';
-    if (items.empty())
-        return;
-    bool const areConverted = items[0].contains("result");
-    // The margin is for people only.
-    std::string const margin = isTerminal(STDOUT_FILENO) ? "  " : "";
-    std::vector<std::vector<std::string>> rows{{margin + "CLASS", "TAG", "ID", "GROUP", "CATEGORIES", "USER"}};
-    if (areConverted)
-        rows.back().push_back("RESULT");
-    // Quoted where it is needed, as a file may put anything into its texts.
-    auto const cell = [](std::string const & text) {
-        if (text.empty())
-            return std::string("-");
-        return text.find(' ') == text.npos ? quoted(text) : toText(text);
-    };
-    for (json const & item : items) {
-        std::string categories;
-        for (json const & category : item["categories"])
-            categories += (categories.empty() ? "" : " ") + cell(category);
-        rows.push_back({margin + item["class"].get<std::string>(), cell(item["tag"]), cell(item["id"]),
-            cell(item["groupId"]), categories.empty() ? "-" : categories, item["user"] ? "yes" : "no"});
-        if (areConverted)
-            rows.back().push_back(item["result"]);
-    }
+    if (text.empty())
+        return "-";
+    return text.find(' ') == text.npos ? quoted(text) : toText(text);
+}
+
+/// Two lines: what the item is, and its categories.
+void printItem(json const & item)
+{
+    std::string line = cell(item["tag"]) + " " + item["class"].get<std::string>();
+    if (item["user"])
+        line += " user";
+    if (item.contains("result"))
+        line += " " + item["result"].get<std::string>();
+    printParagraph(line, 2);
+    std::string categories;
+    for (json const & category : item["categories"])
+        categories += (categories.empty() ? "" : " ") + cell(category);
+    if (!categories.empty())
+        printParagraph(categories, 4);
+}
+
+void printCollections(json const & collections)
+{
+    std::vector<std::vector<std::string>> rows{{"COLLECTION", "ITEMS"}};
+    for (json const & collection : collections)
+        rows.push_back({collection["name"], std::to_string(collection["items"].size())});
     printTable(rows);
+}
+
+void printItems(json const & collections)
+{
+    for (json const & collection : collections) {
+        if (collection["items"].empty())
+            continue;
+        std::cout << '\n' << painted(Look::Heading, collection["name"]) << '\n';
+        for (json const & item : collection["items"])
+            printItem(item);
+    }
 }
 
 json toJson(Summary const & summary, bool areConverted)
@@ -154,52 +165,53 @@ json toJson(Summary const & summary, bool areConverted)
 
 void printSummary(Summary const & summary, bool areConverted)
 {
-    std::cout << counted(summary.items, "item");
-    if (areConverted)
-        std::cout << ": " << summary.converted << " converted, " << counted(summary.descriptors, "descriptor") << ", "
-                  << counted(summary.holders, "holder") << " with " << counted(summary.held, "effect")
-                  << " converted each on its own, " << summary.incomplete << " incomplete, " << summary.notConverted
-                  << " not converted";
-    std::cout << "; " << counted(summary.unreadable, "file") << " could not be read\n";
+    std::cout << painted(Look::Heading, counted(summary.items, "item")) << "; " << counted(summary.unreadable, "file")
+              << " could not be read\n";
+    if (!areConverted)
+        return;
+    std::cout << "  " << summary.converted << " converted\n"
+              << "  " << counted(summary.descriptors, "descriptor") << ", for the editor and not the render engine\n"
+              << "  " << counted(summary.holders, "holder") << " with " << counted(summary.held, "effect")
+              << ", each converted on its own\n"
+              << "  " << summary.incomplete << " incomplete\n"
+              << "  " << summary.notConverted << " not converted\n";
 }
 
 void catalogue(Options const & options)
 {
-    useFolders(options);
-    EditorCollection::ItemStorage storage;
-    RenderHost host(storage);
-    waitForItems(storage);
-
+    Catalogue catalogue = readCatalogue(options.folders);
     Summary summary;
-    summary.unreadable = storage.progress().failed;
+    summary.unreadable = catalogue.unreadable();
+    // A collection without items is shown as well.
     json collections = json::array();
+    for (auto const * const collection : EditorCollection::CollectionProvider::collections())
+        collections.push_back({{"name", collection->name().toStdString()}, {"items", json::array()}});
     std::vector<std::string> problems;
     Progress progress("Converting items");
-    std::size_t const all = storage.progress().delivered;
-    for (auto const * const collection : EditorCollection::CollectionProvider::collections()) {
-        std::string const name = collection->name().toStdString();
-        json items = json::array();
-        for (auto const * const item : collection->items()) {
-            json described = describe(*item);
-            progress.show(summary.items + items.size(), all);
-            if (options.convert)
-                for (std::string & line : convertItem(host, *item, described, summary))
-                    problems.push_back(std::move(line));
-            items.push_back(std::move(described));
-        }
-        summary.items += items.size();
-        collections.push_back({{"name", name}, {"items", std::move(items)}});
-    }
+    std::size_t const all = catalogue.itemCount();
+    auto place = collections.begin();
+    catalogue.forEach([&](std::string const & name, EditorCollection::IItem const & item) {
+        json described = describe(item);
+        progress.show(summary.items++, all);
+        if (options.convert)
+            for (std::string & line : convertItem(catalogue.host(), item, described, summary))
+                problems.push_back(std::move(line));
+        while ((*place)["name"] != name)
+            ++place;
+        (*place)["items"].push_back(std::move(described));
+    });
 
     Progress::hide();
     if (options.asJson) {
         printJson({{"collections", std::move(collections)}, {"summary", toJson(summary, options.convert)}});
     } else {
-        for (json const & collection : collections)
-            printCollection(collection);
         printSummary(summary, options.convert);
+        std::cout << '\n';
+        printCollections(collections);
+        if (options.isLong)
+            printItems(collections);
     }
-    if (std::string problem = stockProblem(); !problem.empty())
+    if (std::string problem = catalogue.stockProblem(); !problem.empty())
         problems.push_back(std::move(problem));
     for (std::string const & problem : problems)
         complain(problem);
@@ -213,11 +225,13 @@ void addCatalogue(CLI::App & program)
 {
     auto * const command = program.add_subcommand("catalogue", "The collections of stock and user effects");
     auto const options = std::make_shared<Options>();
-    addFolders(*command, *options);
+    addFolders(*command, options->folders);
+    command->add_flag("--long", options->isLong, "Print every item as well, with its categories");
     command->add_flag("--json", options->asJson, "Print one JSON document: the collections and the summary");
     command->add_flag("--convert", options->convert,
         "Convert every item as well, and report those that did not or not wholly convert");
     setExamples(*command, "  effectctl catalogue\n"
+                          "  effectctl catalogue --long\n"
                           "  effectctl catalogue --stock stock --convert\n"
                           "  effectctl catalogue --json | jq .summary");
     command->callback([options] { catalogue(*options); });

@@ -121,9 +121,7 @@ void convertClass(RenderHost & host, Options const & options)
         setParameter(*effect, key, value);
     }
     json const record = recordOf(host, *effect, {});
-    if (options.asJson)
-        printJson(record);
-    else
+    if (!printIfJson(options, record))
         printRecords(record);
 }
 
@@ -263,7 +261,7 @@ void addConvert(CLI::App & program)
         ->option_text("NAME=FILE ...");
     addPairs(*command, "--track", options->tracks, "Make an existing file the motion track of that identifier")
         ->option_text("ID=FILE ...");
-    command->add_flag("--json", options->asJson, std::string(filesAsJson) + "; for --class, the object alone");
+    addJson(*command, *options, "; for --class, the object alone");
     setExamples(*command,
         "  effectctl convert blur.json\n"
         "  effectctl convert --class Effect::Blur --set intensity=20\n"

@@ -21,6 +21,23 @@ CLI::Option * addFiles(CLI::App & command, FileOptions & options, std::string co
         ->option_text("...");
 }
 
+void addJson(CLI::App & command, FileOptions & options, std::string const & otherwise)
+{
+    auto * const array = command.add_flag(
+        "--json", options.asJson, "Print one JSON document, an array with an object for each file" + otherwise);
+    command.add_flag("--jsonl", options.asJsonLines, "Print a JSON document a line, an object for each file")
+        ->excludes(array);
+}
+
+bool printIfJson(FileOptions const & options, json const & document)
+{
+    if (options.asJson)
+        printJson(document);
+    else if (options.asJsonLines)
+        std::cout << toText(document) << '\n';
+    return options.asJson || options.asJsonLines;
+}
+
 CLI::Option * addClass(CLI::App & command, std::string & className, std::vector<CLI::Option *> const & others)
 {
     auto * const option =
@@ -71,6 +88,9 @@ bool describeFiles(FileOptions const & options, std::vector<File> const & files,
         }
         if (options.asJson) {
             documents.push_back(std::move(described));
+        } else if (options.asJsonLines) {
+            Progress::hide();
+            printIfJson(options, described);
         } else if (!described.contains("error")) {
             Progress::hide();
             task.print(described);

@@ -19,7 +19,8 @@ namespace Host {
 struct FileOptions
 {
     std::vector<std::string> arguments;
-    bool asJson = false;
+    bool asJson = false;      ///< one document
+    bool asJsonLines = false; ///< a document a line
 };
 
 /// What such a command says of one file.
@@ -46,8 +47,12 @@ struct FileTask
 /// @param what  what kind of files, as the help says it
 CLI::Option * addFiles(CLI::App & command, FileOptions & options, std::string const & what);
 
-/// What `--json` means there, as the help says it.
-constexpr char const * filesAsJson = "Print one JSON document, an array with an object for each file";
+/// Adds `--json` and `--jsonl`.
+/// @param otherwise  what `--json` prints where no files are given, as the help says it
+void addJson(CLI::App & command, FileOptions & options, std::string const & otherwise = {});
+
+/// Prints a document that is not of a file. Returns false, and prints nothing, where none is asked for.
+bool printIfJson(FileOptions const & options, nlohmann::json const & document);
 
 /// Adds `--class` to a command that takes one source: files, a class, or what else excludes it.
 CLI::Option * addClass(CLI::App & command, std::string & className, std::vector<CLI::Option *> const & others);
@@ -55,8 +60,8 @@ CLI::Option * addClass(CLI::App & command, std::string & className, std::vector<
 /// Heads what is printed of one file among several.
 void printFileHeading(std::string const & file);
 
-/// Describes every file and prints it, or all of them as one array when a document is asked for. A file that cannot be
-/// done is reported, with "error" in its place of the document, and the others are done nevertheless.
+/// Describes every file and prints it, where a document is asked for as an element of one array or as a line. A file
+/// that cannot be done is reported, with "error" in its place of the document, and the others are done nevertheless.
 /// @return whether nothing was wrong with any file
 bool describeFiles(FileOptions const & options, std::vector<File> const & files, FileTask const & task);
 

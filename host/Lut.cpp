@@ -61,7 +61,7 @@ void addLut(CLI::App & program)
         program.add_subcommand("lut", "Format, size and title of lookup tables, or what is wrong with them");
     auto const options = std::make_shared<FileOptions>();
     addFiles(*command, *options, "Lookup tables in any format that the editor reads")->required();
-    command->add_flag("--json", options->asJson, filesAsJson);
+    addJson(*command, *options);
     setExamples(*command, "  effectctl lut warm.cube\n"
                           "  effectctl lut --json luts/*\n"
                           "  effectctl lut stock/Luts\n"

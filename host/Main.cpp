@@ -94,9 +94,16 @@ int main(int argc, char ** argv)
     Host::addSchema(program);
     Host::addShow(program);
     Host::addArchive(program);
+    Host::addCheck(program);
     Host::addSalvage(program);
+    Host::addRedact(program);
+    Host::addRelink(program);
+    Host::addPack(program);
+    Host::addUnpack(program);
     Host::addConvert(program);
     Host::addCatalogue(program);
+    Host::addSearch(program);
+    Host::addNew(program);
     Host::addGallery(program);
     Host::addLut(program);
     Host::addTool(program);

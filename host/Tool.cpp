@@ -36,9 +36,7 @@ std::vector<std::string> cells(json const & found)
 void toolOfClass(Options const & options)
 {
     json const found = describe(*createEffect(options.className));
-    if (options.asJson)
-        printJson(found);
-    else
+    if (!printIfJson(options, found))
         printTable({{"CLASS", "TOOL", "NAME"}, cells(found)});
 }
 
@@ -77,7 +75,7 @@ void addTool(CLI::App & program)
     auto const options = std::make_shared<Options>();
     auto * const files = addFiles(*command, *options, "Archives in either form or items");
     addClass(*command, options->className, {files});
-    command->add_flag("--json", options->asJson, std::string(filesAsJson) + "; for --class, the object alone");
+    addJson(*command, *options, "; for --class, the object alone");
     setExamples(*command, "  effectctl tool crop.json\n"
                           "  effectctl tool --class Effect::Crop\n"
                           "  effectctl tool --json crop.json echo.bin\n"

@@ -46,14 +46,6 @@ json describeAll(std::vector<Parameter> const & parameters)
     return described;
 }
 
-/// Bounds have no decimals where they need none.
-std::string numberText(double number)
-{
-    constexpr double largestExact = 1e15;
-    bool const isInteger = number == std::floor(number) && std::abs(number) < largestExact;
-    return toText(isInteger ? json(static_cast<std::int64_t>(number)) : json(number));
-}
-
 std::string limitsText(std::optional<double> const & least, std::optional<double> const & most)
 {
     if (least && most)
@@ -155,6 +147,13 @@ std::string valueText(Parameter const & parameter, json const & value)
         break;
     }
     return toText(value);
+}
+
+std::string numberText(double number)
+{
+    constexpr double largestExact = 1e15;
+    bool const isInteger = number == std::floor(number) && std::abs(number) < largestExact;
+    return toText(isInteger ? json(static_cast<std::int64_t>(number)) : json(number));
 }
 
 std::string boundsText(Parameter const & parameter)

@@ -30,6 +30,9 @@ EFFECTS_INSPECT_API std::string valueText(Effect::Schema::Parameter const & para
 /// The hard bounds with what is made of numbers beyond, such as "0 to 1, clamped beyond"; empty where there is neither.
 EFFECTS_INSPECT_API std::string boundsText(Effect::Schema::Parameter const & parameter);
 
+/// A number without decimals where it has none, such as "1" and "0.5".
+EFFECTS_INSPECT_API std::string numberText(double number);
+
 /// The bounds for a slider, such as "0 to 1"; empty where there are none.
 EFFECTS_INSPECT_API std::string suggestionText(Effect::Schema::Parameter const & parameter);
 

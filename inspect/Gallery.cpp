@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include <EditorModel/CollectionProvider.h>
+#include <EditorModel/Collection.h>
 #include <EditorModel/EffectFactory.h>
 #include <EditorSerialization/JsonArchive.h>
 #include <EditorSettings/Settings.h>
@@ -18,6 +18,7 @@
 #include <Settings/Settings.h>
 #include <Settings/SettingsShader.h>
 
+#include "Categories.h"
 #include "ClassDescription.h"
 #include "Conversion.h"
 #include "Documents.h"
@@ -25,6 +26,7 @@
 #include "FileNames.h"
 #include "Files.h"
 #include "Messages.h"
+#include "Search.h"
 #include "Text.h"
 
 #include <QBuffer>
@@ -258,8 +260,9 @@ std::vector<json> stepsOf(Parameter const & parameter)
 class Gallery
 {
 public:
-    Gallery(RenderHost & host, QString const & folder)
-        : m_host(host)
+    Gallery(Catalogue & catalogue, QString const & folder)
+        : m_catalogue(catalogue)
+        , m_host(catalogue.host())
         , m_folder(folder)
     {}
 
@@ -271,10 +274,11 @@ public:
         for (Class const * const info : Effect::Schema::classes())
             if (isOffered(*info))
                 addClass(*info);
-        for (auto const * const collection : EditorCollection::CollectionProvider::collections())
-            for (auto const * const item : collection->items())
-                addItem(*item, collection->name().toStdString());
+        m_catalogue.forEach([this](std::string const & collection, EditorCollection::IItem const & item) {
+            addItem(item, collection);
+        });
         script("cards", m_cards);
+        script("synonyms", synonyms());
         script("classes", m_classes);
         script("documents", m_documents);
         script("records", m_records);
@@ -309,10 +313,10 @@ private:
         description["isConverted"] = info.isConverted;
         m_classes[info.name] = std::move(description);
         std::string const id = "effect-" + shortName(info.name);
-        m_cards.push_back(
-            {{"id", id}, {"class", info.name}, {"tag", info.tag.toStdString()}, {"title", classTitle(info.name)},
-                {"description", info.description().toStdString()}, {"family", info.family},
-                {"type", info.type == Effect::Type::Audio ? "audio" : "video"}, {"categories", json::array()}});
+        m_cards.push_back({{"id", id}, {"class", info.name}, {"tag", info.tag.toStdString()},
+            {"title", classTitle(info.name)}, {"description", info.description().toStdString()},
+            {"family", info.family}, {"type", info.type == Effect::Type::Audio ? "audio" : "video"},
+            {"categories", json::array()}, {"categoryTexts", json::array()}});
         m_documents[id] = document(*effect);
         addRecords(id, *effect, true);
         ++m_summary.effects;
@@ -328,14 +332,17 @@ private:
         std::string stem = toBytes(source.fileName());
         stem = asText(stem.substr(0, stem.find('.')));
         json categories = json::array();
-        for (QString const & category : item.categories())
+        json categoryTexts = json::array();
+        for (QString const & category : item.categories()) {
             categories.push_back(category.toStdString());
+            categoryTexts.push_back(categoryText(category.toStdString()));
+        }
         std::string const id = unused((item.userFlagA() ? "user-" : "item-") + stem);
         m_cards.push_back({{"id", id}, {"class", info->name}, {"tag", effect.tag.toStdString()},
             {"title", itemTitle(info->name, stem)}, {"description", info->description().toStdString()},
             {"family", info->family}, {"type", effect.type() == Effect::Type::Audio ? "audio" : "video"},
-            {"categories", std::move(categories)}, {"collection", collection},
-            {"file", asText(toBytes(source.fileName()))}, {"user", item.userFlagA()}});
+            {"categories", std::move(categories)}, {"categoryTexts", std::move(categoryTexts)},
+            {"collection", collection}, {"file", asText(toBytes(source.fileName()))}, {"user", item.userFlagA()}});
         // The file's own text has its paths as they are, where the payload has those of this machine.
         m_documents[id] = Serialize::Json::parse(readFile(item.file()));
         addRecords(id, effect, isDrawnFromRecords(info->name));
@@ -477,6 +484,7 @@ private:
         return {{"file", name}, {"width", image.width()}, {"height", image.height()}};
     }
 
+    Catalogue & m_catalogue;
     RenderHost & m_host;
     QDir m_folder;
     GallerySummary m_summary;
@@ -492,9 +500,9 @@ private:
 
 } // namespace
 
-GallerySummary writeGallery(RenderHost & host, QString const & folder)
+GallerySummary writeGallery(Catalogue & catalogue, QString const & folder)
 {
-    return Gallery(host, folder).write();
+    return Gallery(catalogue, folder).write();
 }
 
 } // namespace Effect::Inspect

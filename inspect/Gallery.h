@@ -4,8 +4,8 @@
 
 #include <cstddef>
 
+#include <inspect/Catalogue.h>
 #include <inspect/Export.h>
-#include <inspect/RenderHost.h>
 
 #include <QString>
 
@@ -19,7 +19,7 @@ struct GallerySummary
     std::size_t bytes = 0;   ///< of all files written
 };
 
-/// Writes the page of every effect class and of every item of the installed catalogue: `index.html` and what it loads,
+/// Writes the page of every effect class and of every item of the catalogue: `index.html` and what it loads,
 /// all below `folder`, which is made when it is missing. Files of an earlier page are replaced, others are left alone.
 ///
 /// The page converts nothing: the settings records of the defaults, of the items, and of the steps between the bounds
@@ -27,7 +27,8 @@ struct GallerySummary
 ///
 /// Throws a `Failure` that names the file that could not be written. What the library logs meanwhile becomes part of
 /// the records.
-/// @param host  brought up with the catalogue, all of whose items have been delivered
-EFFECTS_INSPECT_API GallerySummary writeGallery(RenderHost & host, QString const & folder);
+/// @param catalogue  whose host converts the effects
+/// @param folder     of `index.html`
+EFFECTS_INSPECT_API GallerySummary writeGallery(Catalogue & catalogue, QString const & folder);
 
 } // namespace Effect::Inspect

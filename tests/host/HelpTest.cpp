@@ -177,7 +177,7 @@ TEST(Completion, BashOffersClassesAndFiles)
     QTemporaryDir const folder;
     std::ofstream(folder.filePath("one.json").toStdString()) << "{}";
     std::string const start = folder.path().toStdString() + "/o";
-    for (char const * const before : {"show ", "archive ", "convert a.json ", "lut ", "tool ", "convert --track id="})
+    for (char const * const before : {"show ", "archive ", "check ", "convert a.json ", "lut ", "tool ", "convert --track id="})
         EXPECT_EQ(bashOffers("effectctl " + (before + start)), Words{start + "ne.json"}) << before;
     std::string const path = folder.path().toStdString();
     EXPECT_EQ(bashOffers("effectctl catalogue --stock " + path.substr(0, path.size() - 1)), Words{path});
@@ -263,17 +263,19 @@ TEST(Completion, ZshKnowsEveryCommandAndOption)
     std::string const text = read(hostFolder + "/completion/_effectctl");
     for (std::string const & command : commands()) {
         EXPECT_TRUE(std::regex_search(text, std::regex("['\"]" + command + ":"))) << command;
-        // The branch of the command, in which a variable stands for --class and for --help.
+        // The branch of the command, in which variables contain the options that several commands have.
         std::smatch branch;
         ASSERT_TRUE(std::regex_search(
             text, branch, std::regex("\n +(?:[a-z]+ \\| )?" + command + "(?: \\| [a-z]+)?\\)([^;]*);;")))
             << command;
         std::string const listed = branch[1];
-        Words options = matches(listed, "(--[a-z]+)");
+        Words options = matches(listed, "(--[a-z][a-z-]*)");
         EXPECT_THAT(listed, HasSubstr("$help"));
         options.insert("--help");
         if (listed.find("$class") != std::string::npos || listed.find("$effect") != std::string::npos)
             options.insert("--class");
+        if (listed.find("$json") != std::string::npos)
+            options.insert({"--json", "--jsonl"});
         EXPECT_EQ(options, optionsOf(command)) << command;
     }
 }

@@ -261,23 +261,6 @@ Registry & registry()
     return instance;
 }
 
-/// Empty where the identifier can name no file.
-QString trackPath(QString const & id)
-{
-    {
-        Registry & tracks = registry();
-        std::lock_guard const lock(tracks.mutex);
-        if (auto const found = tracks.paths.find(id); found != tracks.paths.end())
-            return found->second;
-    }
-    // What would lead out of the folder. ".." need not be here: with the suffix it is a name like others.
-    for (QChar const separator : {QChar('/'), QChar('\\'), QChar()}) {
-        if (id.contains(separator))
-            return {};
-    }
-    return FS::joinPath({Settings::userTracksPath(), id}, QStringLiteral(".track.json"));
-}
-
 void report(QString * error, QString const & text)
 {
     if (error != nullptr)
@@ -327,6 +310,22 @@ std::shared_ptr<Data const> loadTrackFile(QString const & path, QString * error)
     if (!data)
         report(error, path + ": " + reason);
     return data;
+}
+
+QString trackPath(QString const & id)
+{
+    {
+        Registry & tracks = registry();
+        std::lock_guard const lock(tracks.mutex);
+        if (auto const found = tracks.paths.find(id); found != tracks.paths.end())
+            return found->second;
+    }
+    // What would lead out of the folder. ".." need not be here: with the suffix it is a name like others.
+    for (QChar const separator : {QChar('/'), QChar('\\'), QChar()}) {
+        if (id.contains(separator))
+            return {};
+    }
+    return FS::joinPath({Settings::userTracksPath(), id}, QStringLiteral(".track.json"));
 }
 
 std::shared_ptr<Data const> loadTrackingData(QString const & id)

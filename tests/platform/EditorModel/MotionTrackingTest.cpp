@@ -283,6 +283,15 @@ TEST_F(MotionTrackFile, BrokenFileIsNullAndOneWarning)
                              " Couldn't read motion track: " + file.toStdString() + ": frames[0].rect is missing"));
 }
 
+TEST_F(MotionTrackFile, AnIdentifierHasAPathWhetherTheFileExistsOrNot)
+{
+    EXPECT_EQ(MotionTracking::trackPath("car"), path("Tracks/car.track.json"));
+    EXPECT_EQ(MotionTracking::trackPath("a/car"), QString());
+    MotionTracking::registerTrack("a/car", "elsewhere.json");
+    EXPECT_EQ(MotionTracking::trackPath("a/car"), "elsewhere.json");
+    MotionTracking::unregisterTrack("a/car");
+}
+
 TEST_F(MotionTrackFile, RegisteredFileGoesAheadOfTheFolder)
 {
     write("Tracks/car.track.json", oneFrame);

@@ -73,6 +73,10 @@ EDITORMODEL_EXPORT void registerTrack(QString const & id, QString const & path);
 /// Takes a registration back; without one, does nothing.
 EDITORMODEL_EXPORT void unregisterTrack(QString const & id);
 
+/// The file of the identifier `id`: the one registered for it, else the one in `Settings::userTracksPath()`, whether it
+/// exists or not. Empty where the identifier can name no file.
+EDITORMODEL_EXPORT QString trackPath(QString const & id);
+
 /// Reads the file at `path`, which must be a regular one of at most 64 MiB. On failure null, and in `error`, unless
 /// that is null, one line with the path, the place in the file and the reason.
 EDITORMODEL_EXPORT std::shared_ptr<Data const> loadTrackFile(QString const & path, QString * error = nullptr);
