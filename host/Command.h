@@ -29,6 +29,7 @@ void addConvert(CLI::App & program);
 void addDescribe(CLI::App & program);
 void addDiff(CLI::App & program);
 void addEdit(CLI::App & program);
+void addGallery(CLI::App & program);
 void addList(CLI::App & program);
 void addLut(CLI::App & program);
 void addNew(CLI::App & program);

@@ -107,6 +107,7 @@ int main(int argc, char ** argv)
     Host::addCatalogue(program);
     Host::addSearch(program);
     Host::addNew(program);
+    Host::addGallery(program);
     Host::addLut(program);
     Host::addTool(program);
     Host::setExamples(program,

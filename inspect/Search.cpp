@@ -14,14 +14,9 @@
 
 namespace Effect::Inspect {
 
-namespace {
-
-using Words = std::vector<std::string>;
-
-/// Words that mean the same to who looks for an effect, each in one row at most.
-std::vector<Words> const & meanings()
+std::vector<std::vector<std::string>> const & synonyms()
 {
-    static std::vector<Words> const rows{
+    static std::vector<std::vector<std::string>> const rows{
         {"blur", "defocus", "soft", "soften", "bokeh"},
         {"sharpen", "sharpness", "crisp", "clarity", "detail"},
         {"monochrome", "grayscale", "greyscale", "bw", "noir"},
@@ -57,6 +52,10 @@ std::vector<Words> const & meanings()
     };
     return rows;
 }
+
+namespace {
+
+using Words = std::vector<std::string>;
 
 /// What is in almost every tag and says nothing.
 bool isFiller(std::string const & word)
@@ -196,7 +195,7 @@ Search::Search(std::vector<std::string> const & query)
     for (std::string const & text : query)
         for (std::string const & word : wordsOf(text)) {
             Words meaning{word};
-            for (Words const & row : meanings())
+            for (Words const & row : synonyms())
                 if (contains(word, row))
                     std::copy_if(row.begin(), row.end(), std::back_inserter(meaning),
                         [&word](std::string const & other) { return other != word; });

@@ -21,6 +21,9 @@ struct Hit
     double score = 0; ///< greater than 0; the best item has the greatest
 };
 
+/// Words that mean the same to a user who looks for an effect. A word is in one row at most.
+EFFECTS_INSPECT_API std::vector<std::vector<std::string>> const & synonyms();
+
 /// Looks for items that have to do with every one of some words.
 ///
 /// A word is looked for in the item's name and tag, in its class, in its categories, and in what the class does, in

@@ -25,7 +25,7 @@ _effectctl()
     local options=--help
     case $command in
         '')
-            _effectctl_words "--help --version list describe schema show archive check diff patch edit salvage redact relink pack unpack convert catalogue search new lut tool"
+            _effectctl_words "--help --version list describe schema show archive check diff patch edit salvage redact relink pack unpack convert catalogue search new gallery lut tool"
             return ;;
         list) options+=' --json --effects' ;;
         describe) options+=' --json' ;;
@@ -45,6 +45,7 @@ _effectctl()
         catalogue) options+=' --stock --user --json --long --convert' ;;
         search) options+=' --stock --user --json' ;;
         new) options+=' --output --category --set' ;;
+        gallery) options+=' --stock --user' ;;
         lut) options+=' --json --jsonl' ;;
         tool) options+=' --class --json --jsonl' ;;
         *) return ;;
@@ -86,6 +87,9 @@ _effectctl()
         _effectctl_words "$(_effectctl_classes)"
     elif [[ $command == new && $previous == new ]]; then
         _effectctl_words "$(_effectctl_classes --effects)"
+    elif [[ $command == gallery ]]; then
+        compopt -o filenames 2>/dev/null
+        mapfile -t COMPREPLY < <(compgen -d -- "$word")
     elif [[ $command != list && $command != catalogue && $command != search ]]; then
         _effectctl_files "$word"
     fi
