@@ -95,6 +95,9 @@ int main(int argc, char ** argv)
     Host::addShow(program);
     Host::addArchive(program);
     Host::addCheck(program);
+    Host::addDiff(program);
+    Host::addPatch(program);
+    Host::addEdit(program);
     Host::addSalvage(program);
     Host::addRedact(program);
     Host::addRelink(program);

@@ -25,7 +25,7 @@ _effectctl()
     local options=--help
     case $command in
         '')
-            _effectctl_words "--help --version list describe schema show archive check salvage redact relink pack unpack convert catalogue search new lut tool"
+            _effectctl_words "--help --version list describe schema show archive check diff patch edit salvage redact relink pack unpack convert catalogue search new lut tool"
             return ;;
         list) options+=' --json --effects' ;;
         describe) options+=' --json' ;;
@@ -33,6 +33,9 @@ _effectctl()
         show) options+=' --class --json' ;;
         archive) options+=' --to --format --json --jsonl' ;;
         check) options+=' --strict --json --jsonl' ;;
+        diff) options+=' --json' ;;
+        patch) options+=' --output' ;;
+        edit) options+=' --set --unset --output --json --jsonl' ;;
         salvage) options+=' --json' ;;
         redact) ;;
         relink) options+=' --in --hashes --json --jsonl' ;;
@@ -69,6 +72,9 @@ _effectctl()
                 compopt -o nospace 2>/dev/null
                 _effectctl_words "$(_effectctl_keys)"
             fi
+            return ;;
+        --output | -o)
+            _effectctl_files "$word"
             return ;;
         --resource | --track)
             [[ $word == *=* ]] && _effectctl_files "${word#*=}"

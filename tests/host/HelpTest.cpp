@@ -276,6 +276,8 @@ TEST(Completion, ZshKnowsEveryCommandAndOption)
             options.insert("--class");
         if (listed.find("$json") != std::string::npos)
             options.insert({"--json", "--jsonl"});
+        if (listed.find("$output") != std::string::npos)
+            options.insert("--output");
         EXPECT_EQ(options, optionsOf(command)) << command;
     }
 }
