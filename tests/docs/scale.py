@@ -29,7 +29,7 @@ def run(*command, folder, **more):
 
 
 def make_presets(effectctl, folder):
-    """A file of its own for each number: the intensity tells them apart."""
+    """A file for each number, which is in its intensity."""
     documents = [json.loads(run(effectctl, "show", "--json", "--class", name, folder=folder)) for name in CLASSES]
     for number in range(COUNT):
         document = documents[number % len(documents)]
