@@ -30,7 +30,7 @@ _effectctl()
         list) options+=' --json --effects' ;;
         describe) options+=' --json' ;;
         schema) options+=' --items --closed' ;;
-        show) options+=' --class --json' ;;
+        show) options+=' --class --json --jsonl' ;;
         archive) options+=' --to --format --json --jsonl' ;;
         check) options+=' --strict --json --jsonl' ;;
         diff) options+=' --json' ;;
