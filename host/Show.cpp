@@ -91,25 +91,22 @@ void printDocument(json const & document)
     printFields(info, document, indentWidth);
 }
 
-/// A document by itself, as it is an archive and can be read as one.
-void showJson(std::vector<File> const & files)
-{
-    if (files.size() > 1)
-        throw Failure("--json shows one effect, and these are " + std::to_string(files.size()) + " files");
-    if (!files[0].error.empty())
-        throw Failure(files[0].error);
-    printJson(document(readArchived(files[0].name)));
-}
-
 void showFiles(Options const & options)
 {
     auto const files = expand(options.arguments, effectSuffixes);
-    if (options.asJson)
-        return showJson(files);
+    // That of one file by itself, as it is an archive and can be read as one.
+    if (options.asJson && files.size() == 1) {
+        if (!files[0].error.empty())
+            throw Failure(files[0].error);
+        return printJson(document(readArchived(files[0].name)));
+    }
+    bool const areDocuments = options.asJson || options.asJsonLines;
     endWith(describeFiles(options, files,
         {"Reading",
-            [](std::string const & file) {
+            [areDocuments](std::string const & file) {
                 Archived archived = readArchived(file);
+                if (areDocuments)
+                    return json{{"document", document(archived)}};
                 return json{{"document", document(*archived.effect)}, {"item", std::move(archived.item)}};
             },
             [&files](json const & described) {
@@ -126,9 +123,7 @@ void show(Options const & options)
     if (options.className.empty())
         return showFiles(options);
     json const archived = document(*create(options.className));
-    if (options.asJson)
-        printJson(archived);
-    else
+    if (!printIfJson(options, archived))
         printDocument(archived);
 }
 
@@ -140,7 +135,10 @@ void addShow(CLI::App & program)
     auto const options = std::make_shared<Options>();
     auto * const files = addFiles(*command, *options, "Archives in either form or items");
     addClass(*command, options->className, {files});
-    command->add_flag("--json", options->asJson, "Print the document of one effect or item");
+    auto * const array = command->add_flag("--json", options->asJson,
+        "Print the document of one effect or item, or an array with an object for each of several files");
+    command->add_flag("--jsonl", options->asJsonLines, "Print a JSON document a line, an object for each file")
+        ->excludes(array);
     setExamples(*command, "  effectctl show crop.json\n"
                           "  effectctl show --class Effect::Crop --json\n"
                           "  effectctl show 'stock/Masks/*.effect.json'\n"

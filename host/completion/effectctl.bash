@@ -30,7 +30,7 @@ _effectctl()
         list) options+=' --json --effects' ;;
         describe) options+=' --json' ;;
         schema) options+=' --items --closed' ;;
-        show) options+=' --class --json' ;;
+        show) options+=' --class --json --jsonl' ;;
         archive) options+=' --to --format --json --jsonl' ;;
         check) options+=' --strict --json --jsonl' ;;
         diff) options+=' --json' ;;
@@ -41,7 +41,7 @@ _effectctl()
         relink) options+=' --in --hashes --json --jsonl' ;;
         pack) options+=' --licence --author --version --json' ;;
         unpack) options+=' --json' ;;
-        convert) options+=' --batch --class --set --resource --track --json --jsonl' ;;
+        convert) options+=' --batch --class --set --resource --track --video --duration --sample-rate --report --json --jsonl' ;;
         catalogue) options+=' --stock --user --json --long --convert' ;;
         search) options+=' --stock --user --json' ;;
         new) options+=' --output --category --set' ;;

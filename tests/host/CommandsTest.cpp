@@ -481,9 +481,19 @@ TEST_F(ManyFilesTest, DocumentsAreArraysWhateverTheNumberOfFiles)
 
     // One file's document is an archive.
     EXPECT_EQ(json::parse(effectctl({"show", "--json", crop}).output), json::parse(read("b.json")));
-    auto const several = effectctl({"show", "--json", crop, opacity});
-    EXPECT_EQ(several.status, 1);
-    EXPECT_EQ(several.errors, "effectctl: --json shows one effect, and these are 2 files\n");
+    json const shown = json::parse(effectctl({"show", "--json", crop, opacity}).output);
+    ASSERT_EQ(shown.size(), 2U);
+    EXPECT_EQ(shown[0], json({{"file", crop.toStdString()}, {"document", json::parse(read("b.json"))}}));
+    auto const lines = effectctl({"show", "--jsonl", crop, path("gone.json"), opacity});
+    EXPECT_EQ(lines.status, 1);
+    std::istringstream stream(lines.output);
+    std::vector<json> documents;
+    for (std::string line; std::getline(stream, line);)
+        documents.push_back(json::parse(line));
+    ASSERT_EQ(documents.size(), 3U);
+    EXPECT_EQ(documents[0], shown[0]);
+    EXPECT_TRUE(documents[1].contains("error"));
+    EXPECT_EQ(documents[2], shown[1]);
 }
 
 TEST_F(ManyFilesTest, SeveralFilesHaveHeadings)
