@@ -13,10 +13,10 @@ namespace Effect::Inspect {
 /// What is special about a new item.
 struct NewItem
 {
-    std::string className;
-    std::string resource; ///< the file that the effect needs: a table, a shader or a picture; empty for none
-    std::string file;     ///< where the item is going to be; "-" for nowhere in particular
-    std::vector<std::string> categories;
+    std::string className; ///< archive name, such as "Effect::Lut"
+    std::string resource;  ///< the file that the effect needs: a table, a shader or a picture; empty for none
+    std::string file;      ///< where the item is going to be; "-" for nowhere in particular
+    std::vector<std::string> categories;                       ///< in any order
     std::vector<std::pair<std::string, std::string>> settings; ///< of parameters; see `setParameter`
 };
 

@@ -28,8 +28,8 @@ inline constexpr char const * packManifest = "pack.json";
 struct PackInfo
 {
     std::string licence; ///< an SPDX expression
-    std::string author;
-    std::string version;
+    std::string author;  ///< who made the presets
+    std::string version; ///< of the presets
 };
 
 /// Whether a text consists of what SPDX licence expressions do.

@@ -44,8 +44,8 @@ EFFECTS_INSPECT_API KnownHashes hashesBeside(std::string const & file);
 /// One path that leads to a file again.
 struct Link
 {
-    std::string before;
-    std::string after;
+    std::string before; ///< which led nowhere
+    std::string after;  ///< in its place
 };
 
 /// What came of a file.

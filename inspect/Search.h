@@ -14,11 +14,11 @@ namespace Effect::Inspect {
 /// An item that was found.
 struct Hit
 {
-    std::string file;
-    std::string className;
-    std::string tag;
-    std::vector<std::string> categories;
-    double score = 0; ///< greater than 0; the best item has the greatest
+    std::string file;                    ///< of the item
+    std::string className;               ///< archive name of its effect's class
+    std::string tag;                     ///< of its effect
+    std::vector<std::string> categories; ///< of the item, sorted
+    double score = 0;                    ///< greater than 0; the best item has the greatest
 };
 
 /// Words that mean the same to a user who looks for an effect. A word is in one row at most.

@@ -12,7 +12,7 @@ namespace Effect::Inspect {
 /// One of the files that the arguments of a command name, and its place below another folder.
 struct Target
 {
-    std::string file;
+    std::string file;     ///< as it is opened
     std::string relative; ///< below the other folder; empty where there is an error
     std::string error;    ///< why the argument names no file, or the file has no place
 };
