@@ -437,5 +437,5 @@ uniform vec4 DATE;
         }
     }
 
-    return {Shader, evaluate, width, height};
+    return {Shader, width, height};
 })();

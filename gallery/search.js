@@ -79,5 +79,5 @@ Gallery.search = (() => {
         return words.length ? sum / words.length : 1;
     }
 
-    return {distance, score};
+    return {score};
 })();

@@ -79,5 +79,5 @@ Gallery.testcard = (() => {
         return cache[key] = target;
     }
 
-    return {canvas, patches, skins};
+    return {canvas};
 })();

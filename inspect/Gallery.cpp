@@ -12,8 +12,9 @@
 #include <EditorModel/EffectFactory.h>
 #include <EditorSerialization/JsonArchive.h>
 #include <EditorSettings/Settings.h>
-#include <effects/Effects.h>
+#include <effects/Composition.h>
 #include <effects/Schema.h>
+#include <effects/Shaders.h>
 #include <ParserLUT/LUTTable.h>
 #include <Settings/Settings.h>
 #include <Settings/SettingsShader.h>
