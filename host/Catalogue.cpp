@@ -80,12 +80,15 @@ void count(Outcome const & outcome, Summary & summary)
     }
 }
 
-Outcome convert(RenderHost & host, Effect::Object const & effect)
+/// @param log  receives what the factory logged
+Outcome convert(RenderHost & host, Effect::Object const & effect, json & log)
 {
     RenderParams params;
     params.video = {{1920, 1080}, 5 * MTime::unitsPerSecond}; // any will do
     try {
-        return outcomeOf(effect, recordOf(host, effect, params));
+        json const record = recordOf(host, effect, params);
+        log = record["log"];
+        return outcomeOf(effect, record);
     } catch (std::exception const & error) {
         return {Outcome::Result::Failed, 0, {error.what()}};
     }
@@ -96,9 +99,12 @@ Outcome convert(RenderHost & host, Effect::Object const & effect)
 std::vector<std::string> convertItem(
     RenderHost & host, EditorCollection::IItem const & item, json & described, Summary & summary)
 {
-    Outcome const outcome = convert(host, item.payload());
+    json log = json::array();
+    Outcome const outcome = convert(host, item.payload(), log);
     count(outcome, summary);
     described["result"] = toText(outcome.result);
+    if (!log.empty())
+        described["log"] = std::move(log);
     if (outcome.result == Outcome::Result::Holder)
         described["effects"] = outcome.held;
     if (outcome.problems.empty())

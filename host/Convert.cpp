@@ -1,7 +1,10 @@
 #include <algorithm>
 #include <cerrno>
+#include <charconv>
 #include <cstring>
 #include <iostream>
+#include <limits>
+#include <map>
 #include <optional>
 
 #include <sys/stat.h>
@@ -17,6 +20,7 @@
 #include <inspect/FileNames.h>
 #include <inspect/Files.h>
 #include <inspect/RenderHost.h>
+#include <inspect/Report.h>
 #include <inspect/Text.h>
 #include <utils/EffectUtils.h>
 
@@ -39,8 +43,29 @@ struct Options : FileOptions
     std::vector<std::string> changes;
     std::vector<std::string> resources;
     std::vector<std::string> tracks;
+    std::string video;
+    RenderParams params; ///< of every effect, a request of a batch overriding them
     bool batch = false;
 };
+
+/// What is not as it was given, and how much else there is.
+void printReport(json const & report)
+{
+    std::map<std::string, std::size_t> counts;
+    for (json const & parameter : report["parameters"]) {
+        std::string const outcome = parameter["outcome"];
+        ++counts[outcome];
+        if (outcome != "exact" && outcome != "ignored")
+            std::cout << "  " << outcome << ' ' << parameter["pointer"].get<std::string>() << ": "
+                      << toText(parameter["given"]) << ", used " << toText(parameter["used"]) << '\n';
+    }
+    std::cout << "  " << counted(counts["exact"], "parameter") << " exact, " << counts["ignored"] << " ignored\n";
+    for (json const & resource : report["resources"]) {
+        json const & about = resource["message"].is_null() ? resource["file"] : resource["message"];
+        std::cout << "  " << resource["outcome"].get<std::string>() << ' ' << toText(resource["name"]) << ": "
+                  << quoted(asText(about.get<std::string>())) << '\n';
+    }
+}
 
 void printRecord(json const & record)
 {
@@ -63,6 +88,8 @@ void printRecord(json const & record)
     for (char const * const key : {"log", "warnings"})
         for (json const & line : record.value(key, json::array()))
             std::cout << "  " << asText(line.get_ref<std::string const &>()) << '\n';
+    if (auto const report = record.find("report"); report != record.end())
+        printReport(*report);
 }
 
 void printRecords(json const & record)
@@ -84,11 +111,11 @@ void printRecords(json const & record)
 void convertFiles(RenderHost & host, Options const & options)
 {
     auto const files = expand(options.arguments, effectSuffixes);
-    auto const describe = [&host](std::string const & file) -> Description {
+    auto const describe = [&](std::string const & file) -> Description {
         auto const effect = readEffect(file);
         registerResources(*effect);
         try {
-            json record = recordOf(host, *effect, {});
+            json record = recordOf(host, *effect, options.params);
             auto problems = outcomeOf(*effect, record).problems;
             return {std::move(record), std::move(problems)};
         } catch (std::exception const & error) {
@@ -110,7 +137,7 @@ void convertClass(RenderHost & host, Options const & options)
         auto const [key, value] = halves(change);
         setParameter(*effect, key, value);
     }
-    json const record = recordOf(host, *effect, {});
+    json const record = recordOf(host, *effect, options.params);
     if (!printIfJson(options, record))
         printRecords(record);
 }
@@ -129,9 +156,8 @@ void checkKeys(json const & object, std::string const & what, std::vector<std::s
             throw Failure(what + " has no key \"" + key + "\", only \"" + joined(known, "\", \"") + '"');
 }
 
-RenderParams paramsOf(json const & request)
+RenderParams paramsOf(json const & request, RenderParams params)
 {
-    RenderParams params;
     if (auto const video = request.find("video"); video != request.end()) {
         if (!video->is_object())
             throw Failure("\"video\" is no object");
@@ -158,7 +184,7 @@ RenderParams paramsOf(json const & request)
     return params;
 }
 
-json convertRequest(RenderHost & host, json const & request)
+json convertRequest(RenderHost & host, json const & request, RenderParams const & defaults)
 {
     if (!request.is_object() || !request.contains("class") || !request["class"].is_string())
         throw Failure("the request names no class");
@@ -173,12 +199,17 @@ json convertRequest(RenderHost & host, json const & request)
         for (auto const & [key, value] : changes->items())
             setField(archived, part, key, value);
     }
-    return host.convert(*effectOf(archived), paramsOf(request));
+    auto const effect = effectOf(archived);
+    RenderParams const params = paramsOf(request, defaults);
+    json record = host.convert(*effect, params);
+    if (params.isReported)
+        record["report"] = reportOf(host, *effect, params);
+    return record;
 }
 
 /// A request a line, an answer a line. A line that cannot be done is answered with an error, and the batch goes on.
 /// Each answer says how its request went; the batch as a whole fails when every request did.
-void convertBatch(RenderHost & host)
+void convertBatch(RenderHost & host, RenderParams const & defaults)
 {
     std::size_t requests = 0;
     std::size_t failures = 0;
@@ -191,7 +222,7 @@ void convertBatch(RenderHost & host)
         ++requests;
         try {
             request = Serialize::Json::parse(line);
-            answer = convertRequest(host, request);
+            answer = convertRequest(host, request, defaults);
         } catch (std::exception const & error) {
             answer = {{"class", request.is_object() && request.contains("class") ? request["class"] : json()},
                 {"error", error.what()}};
@@ -202,6 +233,18 @@ void convertBatch(RenderHost & host)
     }
     if (requests > 0 && failures == requests)
         throw Failure(std::to_string(failures) + " of " + std::to_string(requests) + " requests failed");
+}
+
+/// Such as "1920x1080". Returns what is wrong with the text, or an empty text.
+std::string readGeometry(std::string const & text, Options & options)
+{
+    auto & [width, height] = options.params.video.frameGeometry;
+    char const * const end = text.data() + text.size();
+    auto const first = std::from_chars(text.data(), end, width);
+    bool const isWidth = first.ec == std::errc() && first.ptr != end && *first.ptr == 'x' && width > 0;
+    auto const second = isWidth ? std::from_chars(first.ptr + 1, end, height) : first;
+    bool const isWhole = isWidth && second.ec == std::errc() && second.ptr == end && height > 0;
+    return isWhole ? std::string() : text + " is no size such as 1920x1080";
 }
 
 /// The file of a pair "NAME=FILE", as the library takes it.
@@ -226,7 +269,7 @@ void convert(Options const & options)
         MotionTracking::registerTrack(QString::fromStdString(id), existingFile(file));
     }
     if (options.batch)
-        convertBatch(host);
+        convertBatch(host, options.params);
     else if (!options.className.empty())
         convertClass(host, options);
     else
@@ -251,10 +294,26 @@ void addConvert(CLI::App & program)
         ->option_text("NAME=FILE ...");
     addPairs(*command, "--track", options->tracks, "Make an existing file the motion track of that identifier")
         ->option_text("ID=FILE ...");
+    command->add_option("--video", options->video, "Size of the picture in pixels, for effects of the picture")
+        ->option_text("WIDTHxHEIGHT")
+        ->check([options](std::string const & text) { return readGeometry(text, *options); });
+    command
+        ->add_option("--duration", options->params.video.duration,
+            "Length of the clip in microseconds, for effects of the picture")
+        ->option_text("TIME")
+        ->check(CLI::Range(std::int64_t(0), std::numeric_limits<std::int64_t>::max()));
+    command
+        ->add_option("--sample-rate", options->params.audio.sampleRate,
+            "Of the sound in hertz, for effects of the sound; 48000 unless given")
+        ->option_text("RATE")
+        ->check(CLI::Range(1, std::numeric_limits<std::int32_t>::max()));
+    command->add_flag("--report", options->params.isReported,
+        "Add what became of each parameter and each file: exact, narrowed, replaced, ignored, missing or broken");
     addJson(*command, *options, "; for --class, the object alone");
     setExamples(*command,
         "  effectctl convert blur.json\n"
         "  effectctl convert --class Effect::Blur --set intensity=20\n"
+        "  effectctl convert --report --video 1920x1080 --duration 5000000 blur.json\n"
         "  effectctl convert --class Effect::WhiteBalance --set color=#00c800\n"
         "  effectctl convert --json stock/ColorFilters 'more/*.json'\n"
         "  effectctl show --class Effect::Crop --json | effectctl convert -\n"

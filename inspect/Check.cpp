@@ -13,6 +13,7 @@
 #include <EditorSerialization/Nearest.h>
 #include <effects/Effects.h>
 #include <effects/Schema.h>
+#include <inspect/Bounds.h>
 #include <inspect/Categories.h>
 #include <inspect/ClassDescription.h>
 #include <inspect/Failure.h>
@@ -86,18 +87,6 @@ void locate(std::vector<Finding> & findings, std::string_view text)
             break;
         }
     }
-}
-
-/// The number in a document; nothing for other values.
-std::optional<double> numberIn(json const & value)
-{
-    double number = 0;
-    try {
-        Serialize::Json::Detail::load(value, number);
-    } catch (std::exception const &) {
-        return std::nullopt;
-    }
-    return number;
 }
 
 } // namespace
@@ -209,30 +198,12 @@ private:
             });
     }
 
-    static bool isChoice(double number, Parameter const & parameter)
-    {
-        return parameter.choices.empty() || std::any_of(parameter.choices.begin(), parameter.choices.end(),
-                                                [number](Choice const & choice) { return choice.value == number; });
-    }
-
     static std::string choicesText(Parameter const & parameter)
     {
         std::vector<std::string> names;
         for (Choice const & choice : parameter.choices)
             names.push_back(std::to_string(choice.value) + " (" + choice.name + ')');
         return joined(names, ", ");
-    }
-
-    /// The bound that a number is beyond; not a number where it is none itself. Nothing for a number within.
-    static std::optional<double> boundBefore(double number, Parameter const & parameter)
-    {
-        if (!parameter.minimum && !parameter.maximum)
-            return std::nullopt;
-        if (std::isnan(number))
-            return number;
-        if (parameter.minimum && number < *parameter.minimum)
-            return parameter.minimum;
-        return parameter.maximum && number > *parameter.maximum ? parameter.maximum : std::nullopt;
     }
 
     void checkEffects(Object const & effect)

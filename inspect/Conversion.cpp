@@ -1,7 +1,8 @@
 #include <inspect/Conversion.h>
 
 #include <effects/Effects.h>
-#include <inspect/Text.h>
+#include <inspect/Report.h>
+#include <inspect/Resources.h>
 #include <utils/EffectUtils.h>
 
 namespace Effect::Inspect {
@@ -28,17 +29,34 @@ void addProblems(json const & record, Outcome & outcome)
         outcome.result = Outcome::Result::Incomplete;
 }
 
-void addHeld(json const & record, Outcome & outcome)
+/// Files that no conversion reads, such as the picture of an overlay: what those cannot read, they have logged.
+void addResources(Object const & effect, json const & record, Outcome & outcome)
 {
-    for (json const & held : record[effectsKey]) {
-        if (held.is_null())
+    if (record.contains("warnings"))
+        return;
+    for (ResourceUse const & use : resourcesOf(effect)) {
+        if (use.outcome == ResourceUse::Outcome::Found)
             continue;
-        if (held.contains(effectsKey)) {
-            addHeld(held, outcome);
+        outcome.problems.push_back(use.message);
+        if (outcome.result != Outcome::Result::Failed)
+            outcome.result = Outcome::Result::Incomplete;
+    }
+}
+
+void addHeld(EffectsHolder const & holder, json const & record, Outcome & outcome)
+{
+    json const & records = record[effectsKey];
+    for (std::size_t index = 0; index < records.size(); ++index) {
+        if (records[index].is_null())
+            continue;
+        Object const & held = *holder.effects[index];
+        if (auto const * const inner = dynamic_cast<EffectsHolder const *>(&held)) {
+            addHeld(*inner, records[index], outcome);
             continue;
         }
         ++outcome.held;
-        addProblems(held, outcome);
+        addProblems(records[index], outcome);
+        addResources(held, records[index], outcome);
     }
 }
 
@@ -61,19 +79,22 @@ json recordOf(RenderHost & host, Effect::Object const & effect, RenderParams con
         for (auto const & held : holder->effects)
             records.push_back(held ? recordOf(host, *held, params) : json());
     }
+    if (params.isReported)
+        record["report"] = reportOf(host, effect, params);
     return record;
 }
 
 Outcome outcomeOf(Effect::Object const & effect, json const & record)
 {
     Outcome outcome;
-    if (record.contains(effectsKey)) {
+    if (auto const * const holder = dynamic_cast<EffectsHolder const *>(&effect)) {
         outcome.result = Outcome::Result::Holder;
-        addHeld(record, outcome);
+        addHeld(*holder, record, outcome);
     } else if (effect.impl() == Effect::Impl::Descriptor) {
         outcome.result = Outcome::Result::Descriptor;
     } else {
         addProblems(record, outcome);
+        addResources(effect, record, outcome);
     }
     return outcome;
 }

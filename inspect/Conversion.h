@@ -37,7 +37,8 @@ struct Outcome
 EFFECTS_INSPECT_API void registerResources(Effect::Object const & effect);
 
 /// The record of an effect, as `RenderHost::convert` describes it. That of a holder has those of the effects inside as
-/// well, each converted on its own: `effects`, null for an empty slot.
+/// well, each converted on its own: `effects`, null for an empty slot. Where `params` ask for it, each has a `report`
+/// by `reportOf`.
 EFFECTS_INSPECT_API nlohmann::json recordOf(
     RenderHost & host, Effect::Object const & effect, RenderParams const & params);
 

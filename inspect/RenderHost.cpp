@@ -3,6 +3,7 @@
 #include <collection/Effects/ContentProvider.h>
 #include <EditorModel/CollectionProvider.h>
 #include <EditorSerialization/JsonArchive.h>
+#include <inspect/Failure.h>
 #include <inspect/Messages.h>
 #include <Settings/Settings.h>
 #include <Settings/Trace.h>
@@ -103,8 +104,18 @@ json RenderHost::convert(Effect::Object const & effect, RenderParams const & par
     Messages messages; // what is logged goes into the record, and nowhere else
     Quoril::Proc::Trace const trace;
     bool const isAudio = params.as.value_or(effect.type()) == Effect::Type::Audio;
-    auto const record = isAudio ? Effect::Factory::audioEffectSettings(effect, params.audio)
-                                : Effect::Factory::videoEffectSettings(effect, params.video);
+    auto const record = [&] {
+        try {
+            return isAudio ? Effect::Factory::audioEffectSettings(effect, params.audio)
+                           : Effect::Factory::videoEffectSettings(effect, params.video);
+        } catch (std::exception const & error) {
+            std::string reason = error.what();
+            for (json const * const lines : {&messages.errors, &messages.warnings})
+                for (std::string const line : *lines)
+                    reason += "; " + line;
+            throw Failure(reason);
+        }
+    }();
     json settings = json::array();
     for (auto const & one : record.settings)
         settings.push_back(toJson(trace.describe(*one)));

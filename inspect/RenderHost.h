@@ -19,6 +19,7 @@ struct RenderParams
     Effect::Factory::VideoParams video; ///< for the factory's operation of video effects
     Effect::Factory::AudioParams audio; ///< for that of audio effects
     std::optional<Effect::Type> as;     ///< the operation of the factory; the effect's own type when absent
+    bool isReported = false;            ///< whether `recordOf` adds a report
 };
 
 /// The library at work. One at a time. It makes a `QGuiApplication`, which pictures need, where the process has none.
@@ -32,7 +33,8 @@ public:
 
     /// The record of one effect: `class`, `stageCode`, `implementation`, `settings` with the setter calls in the order
     /// made and the public data members, and `log`, the errors of the factory. Where there are any, `warnings` are
-    /// those of the loaders: what the effect refers to and is missing or broken.
+    /// those of the loaders: what the effect refers to and is missing or broken. Throws a `Failure` for an effect that
+    /// the factory refuses, with what was logged until then.
     nlohmann::json convert(Effect::Object const & effect, RenderParams const & params);
 
 private:

@@ -37,7 +37,7 @@ _effectctl()
         patch) options+=' --output' ;;
         edit) options+=' --set --unset --output --json --jsonl' ;;
         salvage) options+=' --json' ;;
-        convert) options+=' --batch --class --set --resource --track --json --jsonl' ;;
+        convert) options+=' --batch --class --set --resource --track --video --duration --sample-rate --report --json --jsonl' ;;
         catalogue) options+=' --stock --user --json --convert' ;;
         lut) options+=' --json --jsonl' ;;
         tool) options+=' --class --json --jsonl' ;;

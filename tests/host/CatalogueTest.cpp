@@ -226,6 +226,35 @@ TEST_F(CatalogueCommand, NoticesAWrongStockFolder)
     EXPECT_EQ(json::parse(run.output)["summary"]["items"], 1);
 }
 
+TEST_F(CatalogueCommand, AnItemWithoutItsFileIsIncomplete)
+{
+    Overlay effect;
+    effect.resource = Resource::ID("gone.png", Resource::Type::Image);
+    effect.resourcePath = "gone.png";
+    storeItem(stock() + "/OverlayEffects", "gone", effect);
+    auto const run = effectctl(arguments({"--json", "--convert"}));
+    EXPECT_EQ(run.status, 1);
+    EXPECT_EQ(run.errors, "effectctl: " + (stock() + "/OverlayEffects/gone.effect.json: ").toStdString() +
+                              (stock() + "/OverlayEffects/gone.png: no such file\n").toStdString());
+    json const document = json::parse(run.output);
+    EXPECT_EQ(document["summary"]["incomplete"], 1);
+    EXPECT_EQ(document["summary"]["converted"], 0);
+    EXPECT_EQ(itemsOf(document, "OverlayEffects")[0]["result"], "incomplete");
+}
+
+TEST_F(CatalogueCommand, WhatTheFactoryLoggedIsInTheDocument)
+{
+    storeItem(stock() + "/AudioEffects", "normalize", AudioNormalize());
+    storeItem(stock() + "/VideoEffects", "blur", AutoContrast());
+    auto const run = effectctl(arguments({"--json", "--convert"}));
+    EXPECT_EQ(run.status, 0) << run.errors;
+    json const document = json::parse(run.output);
+    json const descriptor = itemsOf(document, "EffectsAudio").at(0);
+    EXPECT_EQ(descriptor["result"], "descriptor");
+    EXPECT_THAT(descriptor["log"].at(0).get<std::string>(), StartsWith("Settings requested for descriptor. "));
+    EXPECT_FALSE(itemsOf(document, "Effects").at(0).contains("log"));
+}
+
 TEST_F(CatalogueCommand, NeedsItsFolders)
 {
     auto const run = effectctl({"catalogue", "--stock", path("nowhere")});

@@ -177,7 +177,8 @@ TEST(Completion, BashOffersClassesAndFiles)
     QTemporaryDir const folder;
     std::ofstream(folder.filePath("one.json").toStdString()) << "{}";
     std::string const start = folder.path().toStdString() + "/o";
-    for (char const * const before : {"show ", "archive ", "check ", "convert a.json ", "lut ", "tool ", "convert --track id="})
+    for (char const * const before :
+        {"show ", "archive ", "check ", "convert a.json ", "lut ", "tool ", "convert --track id="})
         EXPECT_EQ(bashOffers("effectctl " + (before + start)), Words{start + "ne.json"}) << before;
     std::string const path = folder.path().toStdString();
     EXPECT_EQ(bashOffers("effectctl catalogue --stock " + path.substr(0, path.size() - 1)), Words{path});

@@ -48,8 +48,8 @@ TEST(Differences, NumbersAreComparedAsTheLibraryComparesThem)
 
 TEST(Differences, APatchMakesOneDocumentOfTheOther)
 {
-    std::vector<json> const documents{enhance(), enhance({{"gamma", 0.5}}), enhance({{"new", {{"x", 1}}}}),
-        holder({}), holder({0.1, 0.2, 0.3}), holder({0.1, 0.3}), holder({0.2, 0.1, 0.2, 0.3, 0.4}),
+    std::vector<json> const documents{enhance(), enhance({{"gamma", 0.5}}), enhance({{"new", {{"x", 1}}}}), holder({}),
+        holder({0.1, 0.2, 0.3}), holder({0.1, 0.3}), holder({0.2, 0.1, 0.2, 0.3, 0.4}),
         {{"categories", {"category_looks"}}, {"effect", enhance({{"gamma", 1.0}})}},
         {{"categories", json::array()}, {"effect", enhance()}}};
     for (json const & left : documents)
