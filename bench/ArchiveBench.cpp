@@ -19,7 +19,11 @@
 
 #include <EditorSerialization/BinaryArchive.h>
 #include <EditorSerialization/JsonArchive.h>
-#include <effects/Effects.h>
+#include <effects/Base.h>
+#include <effects/ColorCorrection.h>
+#include <effects/Composition.h>
+#include <effects/Equalizer.h>
+#include <effects/Geometry.h>
 
 #include <benchmark/benchmark.h>
 #include <nlohmann/json.hpp>

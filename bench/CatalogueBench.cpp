@@ -16,7 +16,7 @@
 #include <EditorSettings/Settings.h>
 #include <EditorUtil/ItemFile.h>
 #include <EditorUtil/ItemStorage.h>
-#include <effects/Effects.h>
+#include <effects/ColorCorrection.h>
 
 #include <QDir>
 #include <QFile>

@@ -1,9 +1,10 @@
 // A conversion through the installed factory beside code that makes the same record by hand.
 
+#include <collection/Effects/ContentProvider.h>
 #include <ConfInt/ImplNames.h>
 #include <EditorModel/CollectionProvider.h>
 #include <EditorModel/EffectFactory.h>
-#include <effects/Effects.h>
+#include <effects/Composition.h>
 #include <Settings/SettingsColor.h>
 #include <Settings/SettingsComposition.h>
 

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include <EditorModel/EffectArchive.h>
-#include <effects/Effects.h>
+#include <effects/Holder.h>
 
 #include <benchmark/benchmark.h>
 #include <nlohmann/json.hpp>

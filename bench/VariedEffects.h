@@ -5,7 +5,7 @@
 #include <memory>
 #include <vector>
 
-#include <effects/Effects.h>
+#include <EditorModel/EffectObject.h>
 
 /// `count` effects, the classes taking turns. The same ones in every run.
 std::vector<std::unique_ptr<Effect::Object>> makeVariedEffects(std::size_t count);

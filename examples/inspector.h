@@ -4,7 +4,6 @@
 
 #include <memory>
 
-#include <effects/Effects.h>
 #include <effects/Schema.h>
 
 #include <QtWidgets>

@@ -1,5 +1,6 @@
 // Shows the panel of the inspector, or saves a picture of it.
 
+#include <collection/Effects/ContentProvider.h>
 #include <EditorModel/CollectionProvider.h>
 
 #include <iostream>

@@ -12,7 +12,6 @@
 #include <EditorModel/EffectArchive.h>
 #include <EditorModel/EffectDocument.h>
 #include <EditorSerialization/StreamSerializer.h>
-#include <effects/Effects.h>
 
 namespace {
 

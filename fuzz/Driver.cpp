@@ -33,7 +33,7 @@ extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const * data, std::size_t siz
 // There with the sanitizers' runtime only.
 extern "C" __attribute__((weak)) void __sanitizer_set_death_callback(void (*callback)());
 
-/// The sanitizer of undefined behaviour has a runtime of its own with GCC, which calls nobody back: let it abort.
+/// GCC's undefined-behaviour sanitizer has a runtime without callbacks, so let it abort.
 extern "C" __attribute__((visibility("default"))) char const * __ubsan_default_options()
 {
     return "abort_on_error=1:print_stacktrace=1";

@@ -17,7 +17,6 @@
 #include <EditorSerialization/JsonText.h>
 #include <EditorSerialization/Layout.h>
 #include <EditorSerialization/Registry.h>
-#include <effects/Effects.h>
 
 #include <nlohmann/json.hpp>
 

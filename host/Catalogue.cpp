@@ -1,24 +1,16 @@
-#include <chrono>
 #include <iostream>
 
-#include <unistd.h>
-
 #include <EditorModel/CollectionProvider.h>
-#include <EditorSettings/Settings.h>
-#include <EditorUtil/ItemStorage.h>
+#include <inspect/Catalogue.h>
 #include <inspect/Conversion.h>
-#include <inspect/FileNames.h>
-#include <inspect/Files.h>
 #include <inspect/Messages.h>
-#include <inspect/RenderHost.h>
 #include <inspect/Text.h>
 
+#include "CatalogueOptions.h"
 #include "Command.h"
 #include "FileCommand.h"
 #include "Output.h"
 #include "Progress.h"
-
-#include <QFileInfo>
 
 namespace Host {
 
@@ -28,10 +20,10 @@ namespace {
 
 struct Options
 {
-    std::string stock;
-    std::string user;
+    CatalogueFolders folders;
     bool asJson = false;
     bool convert = false;
+    bool isLong = false;
 };
 
 /// How many items there are of which kind.
@@ -46,17 +38,6 @@ struct Summary
     std::size_t incomplete = 0;   ///< converted without something that is missing or broken
     std::size_t notConverted = 0; ///< which should have been
 };
-
-/// Waits for the deliveries.
-void waitForItems(EditorCollection::ItemStorage & storage)
-{
-    constexpr std::chrono::milliseconds refresh(100);
-    Progress progress("Reading items");
-    while (!storage.waitForAll(refresh)) {
-        auto const counts = storage.progress();
-        progress.show(counts.delivered + counts.failed, counts.found);
-    }
-}
 
 void count(Outcome const & outcome, Summary & summary)
 {
@@ -131,34 +112,47 @@ json describe(EditorCollection::IItem const & item)
         {"file", asText(item.file())}};
 }
 
-void printCollection(json const & collection)
+/// Quoted where it is needed, as a file may put anything into its texts.
+std::string cell(std::string const & text)
 {
-    json const & items = collection["items"];
-    std::cout << painted(Look::Heading, collection["name"]) << ": " << counted(items.size(), "item") << '\n';
-    if (items.empty())
-        return;
-    bool const areConverted = items[0].contains("result");
-    // The margin is for people only.
-    std::string const margin = isTerminal(STDOUT_FILENO) ? "  " : "";
-    std::vector<std::vector<std::string>> rows{{margin + "CLASS", "TAG", "ID", "GROUP", "CATEGORIES", "USER"}};
-    if (areConverted)
-        rows.back().push_back("RESULT");
-    // Quoted where it is needed, as a file may put anything into its texts.
-    auto const cell = [](std::string const & text) {
-        if (text.empty())
-            return std::string("-");
-        return text.find(' ') == text.npos ? quoted(text) : toText(text);
-    };
-    for (json const & item : items) {
-        std::string categories;
-        for (json const & category : item["categories"])
-            categories += (categories.empty() ? "" : " ") + cell(category);
-        rows.push_back({margin + item["class"].get<std::string>(), cell(item["tag"]), cell(item["id"]),
-            cell(item["groupId"]), categories.empty() ? "-" : categories, item["user"] ? "yes" : "no"});
-        if (areConverted)
-            rows.back().push_back(item["result"]);
-    }
+    if (text.empty())
+        return "-";
+    return text.find(' ') == text.npos ? quoted(text) : toText(text);
+}
+
+/// Two lines: what the item is, and its categories.
+void printItem(json const & item)
+{
+    std::string line = cell(item["tag"]) + " " + item["class"].get<std::string>();
+    if (item["user"])
+        line += " user";
+    if (item.contains("result"))
+        line += " " + item["result"].get<std::string>();
+    printParagraph(line, 2);
+    std::string categories;
+    for (json const & category : item["categories"])
+        categories += (categories.empty() ? "" : " ") + cell(category);
+    if (!categories.empty())
+        printParagraph(categories, 4);
+}
+
+void printCollections(json const & collections)
+{
+    std::vector<std::vector<std::string>> rows{{"COLLECTION", "ITEMS"}};
+    for (json const & collection : collections)
+        rows.push_back({collection["name"], std::to_string(collection["items"].size())});
     printTable(rows);
+}
+
+void printItems(json const & collections)
+{
+    for (json const & collection : collections) {
+        if (collection["items"].empty())
+            continue;
+        std::cout << '\n' << painted(Look::Heading, collection["name"]) << '\n';
+        for (json const & item : collection["items"])
+            printItem(item);
+    }
 }
 
 json toJson(Summary const & summary, bool areConverted)
@@ -177,86 +171,53 @@ json toJson(Summary const & summary, bool areConverted)
 
 void printSummary(Summary const & summary, bool areConverted)
 {
-    std::cout << counted(summary.items, "item");
-    if (areConverted)
-        std::cout << ": " << summary.converted << " converted, " << counted(summary.descriptors, "descriptor") << ", "
-                  << counted(summary.holders, "holder") << " with " << counted(summary.held, "effect")
-                  << " converted each on its own, " << summary.incomplete << " incomplete, " << summary.notConverted
-                  << " not converted";
-    std::cout << "; " << counted(summary.unreadable, "file") << " could not be read\n";
-}
-
-/// Throws a `Failure` for what is no folder that items can be read from.
-void checkFolder(QString const & path)
-{
-    QFileInfo const info(path);
-    if (!info.isDir())
-        throw Failure(toBytes(path) + ": no such folder");
-    // The storage takes folders as texts.
-    QString const absolute = info.absoluteFilePath();
-    if (QString::fromUtf8(absolute.toUtf8()) != absolute)
-        throw Failure(toBytes(path) + ": items cannot be read from a folder whose name is not UTF-8");
-}
-
-/// What is wrong with the stock folder as a whole; empty when nothing is. The storage takes a collection's folder that
-/// is missing for one without items, so a wrong stock folder would pass for an empty catalogue.
-std::string stockProblem()
-{
-    std::vector<std::string> names;
-    for (QString const & path : {Settings::stockVideoEffectsPath(), Settings::stockOverlayEffectsPath(),
-             Settings::stockAudioEffectsPath(), Settings::stockAudioEnhancePath(), Settings::stockColorFiltersPath(),
-             Settings::stockLutEffectsPath(), Settings::stockPipEffectsPath(), Settings::stockMasksPath()}) {
-        if (QFileInfo(path).isDir())
-            return {};
-        names.push_back(toBytes(QFileInfo(path).fileName()));
-    }
-    return toBytes(Settings::stockRoot()) + ": this is no stock folder, as it holds none of " + joined(names, ", ");
+    std::cout << painted(Look::Heading, counted(summary.items, "item")) << "; " << counted(summary.unreadable, "file")
+              << " could not be read\n";
+    if (!areConverted)
+        return;
+    std::cout << "  " << summary.converted << " converted\n"
+              << "  " << counted(summary.descriptors, "descriptor") << ", for the editor and not the render engine\n"
+              << "  " << counted(summary.holders, "holder") << " with " << counted(summary.held, "effect")
+              << ", each converted on its own\n"
+              << "  " << summary.incomplete << " incomplete\n"
+              << "  " << summary.notConverted << " not converted\n";
 }
 
 void catalogue(Options const & options)
 {
-    for (auto const & [path, set] :
-        {std::pair(options.stock, &Settings::setStockRoot), std::pair(options.user, &Settings::setUserRoot)}) {
-        if (!path.empty())
-            checkFolder(fileName(path));
-        set(fileName(path));
-    }
-    checkFolder(Settings::stockRoot());
-
-    EditorCollection::ItemStorage storage;
-    RenderHost host(storage);
-    waitForItems(storage);
-
+    Catalogue catalogue = readCatalogue(options.folders);
     Summary summary;
-    summary.unreadable = storage.progress().failed;
+    summary.unreadable = catalogue.unreadable();
+    // A collection without items is shown as well.
     json collections = json::array();
+    for (auto const * const collection : EditorCollection::CollectionProvider::collections())
+        collections.push_back({{"name", collection->name().toStdString()}, {"items", json::array()}});
     std::vector<std::string> problems;
     Progress progress("Converting items");
-    std::size_t const all = storage.progress().delivered;
-    for (auto const * const collection : EditorCollection::CollectionProvider::collections()) {
-        std::string const name = collection->name().toStdString();
-        json items = json::array();
-        for (auto const * const item : collection->items()) {
-            json described = describe(*item);
-            progress.show(summary.items + items.size(), all);
-            if (options.convert)
-                for (std::string & line : convertItem(host, *item, described, summary))
-                    problems.push_back(std::move(line));
-            items.push_back(std::move(described));
-        }
-        summary.items += items.size();
-        collections.push_back({{"name", name}, {"items", std::move(items)}});
-    }
+    std::size_t const all = catalogue.itemCount();
+    auto place = collections.begin();
+    catalogue.forEach([&](std::string const & name, EditorCollection::IItem const & item) {
+        json described = describe(item);
+        progress.show(summary.items++, all);
+        if (options.convert)
+            for (std::string & line : convertItem(catalogue.host(), item, described, summary))
+                problems.push_back(std::move(line));
+        while ((*place)["name"] != name)
+            ++place;
+        (*place)["items"].push_back(std::move(described));
+    });
 
     Progress::hide();
     if (options.asJson) {
         printJson({{"collections", std::move(collections)}, {"summary", toJson(summary, options.convert)}});
     } else {
-        for (json const & collection : collections)
-            printCollection(collection);
         printSummary(summary, options.convert);
+        std::cout << '\n';
+        printCollections(collections);
+        if (options.isLong)
+            printItems(collections);
     }
-    if (std::string problem = stockProblem(); !problem.empty())
+    if (std::string problem = catalogue.stockProblem(); !problem.empty())
         problems.push_back(std::move(problem));
     for (std::string const & problem : problems)
         complain(problem);
@@ -270,18 +231,13 @@ void addCatalogue(CLI::App & program)
 {
     auto * const command = program.add_subcommand("catalogue", "The collections of stock and user effects");
     auto const options = std::make_shared<Options>();
-    command
-        ->add_option("--stock", options->stock,
-            "Stock folder; unless given, that of the environment's EDITOR_STOCK_DIR, else the installed one")
-        ->option_text("DIR");
-    command
-        ->add_option("--user", options->user,
-            "User's folder; unless given, that of the environment's EDITOR_USER_DIR, else the user's data folder")
-        ->option_text("DIR");
+    addFolders(*command, options->folders);
+    command->add_flag("--long", options->isLong, "Print every item as well, with its categories");
     command->add_flag("--json", options->asJson, "Print one JSON document: the collections and the summary");
     command->add_flag("--convert", options->convert,
         "Convert every item as well, and report those that did not or not wholly convert");
     setExamples(*command, "  effectctl catalogue\n"
+                          "  effectctl catalogue --long\n"
                           "  effectctl catalogue --stock stock --convert\n"
                           "  effectctl catalogue --json | jq .summary");
     command->callback([options] { catalogue(*options); });

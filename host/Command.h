@@ -29,13 +29,20 @@ void addConvert(CLI::App & program);
 void addDescribe(CLI::App & program);
 void addDiff(CLI::App & program);
 void addEdit(CLI::App & program);
+void addGallery(CLI::App & program);
 void addList(CLI::App & program);
 void addLut(CLI::App & program);
+void addNew(CLI::App & program);
+void addPack(CLI::App & program);
 void addPatch(CLI::App & program);
+void addRedact(CLI::App & program);
+void addRelink(CLI::App & program);
 void addSalvage(CLI::App & program);
 void addSchema(CLI::App & program);
+void addSearch(CLI::App & program);
 void addShow(CLI::App & program);
 void addTool(CLI::App & program);
+void addUnpack(CLI::App & program);
 /// @}
 
 /// Examples at the end of a subcommand's help.

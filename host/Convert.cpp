@@ -13,7 +13,7 @@
 #include <EditorModel/MotionTracking.h>
 #include <EditorModel/Resource.h>
 #include <EditorSerialization/JsonArchive.h>
-#include <effects/Effects.h>
+#include <effects/Holder.h>
 #include <inspect/Changes.h>
 #include <inspect/Conversion.h>
 #include <inspect/Documents.h>

@@ -99,8 +99,15 @@ int main(int argc, char ** argv)
     Host::addPatch(program);
     Host::addEdit(program);
     Host::addSalvage(program);
+    Host::addRedact(program);
+    Host::addRelink(program);
+    Host::addPack(program);
+    Host::addUnpack(program);
     Host::addConvert(program);
     Host::addCatalogue(program);
+    Host::addSearch(program);
+    Host::addNew(program);
+    Host::addGallery(program);
     Host::addLut(program);
     Host::addTool(program);
     Host::setExamples(program,

@@ -11,8 +11,9 @@
 #include <EditorSerialization/JsonTree.h>
 #include <EditorSerialization/MessageText.h>
 #include <EditorSerialization/Nearest.h>
-#include <effects/Effects.h>
+#include <effects/Holder.h>
 #include <effects/Schema.h>
+#include <effects/Shaders.h>
 #include <inspect/Bounds.h>
 #include <inspect/Categories.h>
 #include <inspect/ClassDescription.h>

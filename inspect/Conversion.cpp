@@ -1,8 +1,9 @@
 #include <inspect/Conversion.h>
 
-#include <effects/Effects.h>
+#include <effects/Holder.h>
 #include <inspect/Report.h>
 #include <inspect/Resources.h>
+#include <inspect/Text.h>
 #include <utils/EffectUtils.h>
 
 namespace Effect::Inspect {

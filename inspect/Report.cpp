@@ -3,7 +3,8 @@
 #include <cmath>
 #include <functional>
 
-#include <effects/Effects.h>
+#include <effects/Holder.h>
+#include <effects/Schema.h>
 #include <inspect/Bounds.h>
 #include <inspect/Documents.h>
 #include <inspect/Resources.h>

@@ -17,7 +17,8 @@ namespace Effect::Inspect {
 ///
 /// - `exact`: the engine gets it.
 /// - `narrowed`: the engine has a coarser type, such as a single-precision number, so that digits are lost.
-/// - `clamped`, `nearest`, `fallback`: it is beyond its bounds or no choice, and another value counts. A bound may follow
+/// - `clamped`, `nearest`, `fallback`: it is beyond its bounds or no choice, and another value counts. A bound may
+/// follow
 ///   from `params`, such as half of the sample rate.
 /// - `ignored`: no settings depend on it, or not while the other parameters and the files are what they are; `used` is
 ///   null.

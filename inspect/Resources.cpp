@@ -4,11 +4,14 @@
 #include <stdexcept>
 
 #include <EditorExternalResourses/ShaderISF.h>
+#include <EditorModel/EffectFactory.h>
 #include <EditorModel/MotionTracking.h>
 #include <EditorModel/Resource.h>
 #include <EditorSerialization/MessageText.h>
 #include <EditorSettings/Settings.h>
-#include <effects/Effects.h>
+#include <effects/Mask.h>
+#include <effects/Schema.h>
+#include <effects/Shaders.h>
 #include <FileSystem/FileSystem.h>
 #include <inspect/FileNames.h>
 #include <inspect/Files.h>

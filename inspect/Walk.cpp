@@ -1,6 +1,7 @@
 #include <inspect/Walk.h>
 
-#include <effects/Effects.h>
+#include <effects/Holder.h>
+#include <effects/Schema.h>
 
 namespace Effect::Inspect {
 

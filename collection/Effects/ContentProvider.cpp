@@ -30,7 +30,7 @@ void handOver(ICollection & collection, serialize_ptr<IItem> && item)
 {
     item.storage.releaseAll();
     std::unique_ptr<IItem> owned = std::move(item.pointer);
-    collection.addItem(std::move(owned)); // what it does not want goes with `owned`
+    collection.addItem(std::move(owned)); // a rejected item is destroyed with `owned`
 }
 
 /// Creates those categories of the item that the collection does not have yet.
@@ -63,9 +63,8 @@ void loadUserBlob(Object const & effect)
     UserBlob::loadBlob(FS::joinPath({Settings::userBlobsPath(), effect.resource.name()}, {}));
 }
 
-// What happens to the items. These run on the storage's threads, and may do so while the constructor is still at work
-// or the destructor already is: so they know the holder alone, whose collections may be used from any thread until it
-// goes, and which drops the loads before it does.
+// Item callbacks. They run on the storage's threads, possibly during the constructor or the destructor. They
+// therefore use only the holder, whose collections are thread-safe and which drops its loads before it is destroyed.
 
 void addStockItem(CollectionHolder const & holder, QString const & collectionName, serialize_ptr<IItem> && item)
 {
@@ -104,7 +103,7 @@ private:
     Factory::SettingsFactory m_factory;
 };
 
-// The order is the one in which the storage is asked, and so that of the deliveries.
+// Loads are started, and so delivered, in this order.
 ContentProvider::Impl::Impl()
 {
     CollectionHolder const & holder = *this;

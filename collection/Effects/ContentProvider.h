@@ -1,5 +1,5 @@
 /// @file
-/// The one object with which a host brings the library to life.
+/// The object that starts the library.
 #pragma once
 
 #include <memory>
@@ -9,15 +9,15 @@
 namespace Effect {
 
 /// Starts the catalogue of stock effects and installs the settings factory. Keep it alive for as long as either is
-/// wanted; its destruction takes both back.
+/// wanted; its destructor removes both.
 ///
 /// The folders are those of `Settings`, and the items come through `EditorCollection::CollectionProvider::itemStorage`:
-/// the host sets both up before. The constructor does not wait for any item. What it registered is reached through
-/// `EditorCollection::CollectionProvider::collection`; a collection asked for early is incomplete, and nothing tells
-/// when it no longer is, except the storage.
+/// the host sets both up first. The constructor does not wait for items. What it registered is reached through
+/// `EditorCollection::CollectionProvider::collection`; a collection is incomplete until the storage
+/// has delivered all of its items.
 ///
 /// The destructor ends the provider's own loads, on whatever storage they were made, and waits for a delivery that is
-/// running. So it must not run inside one.
+/// running. Do not call it from within a delivery.
 class EFFECTS_API ContentProvider
 {
 public:

@@ -1,5 +1,5 @@
 /// @file
-/// What one factory has loaded so far. It lasts as long as the factory: a file that changes meanwhile is not read
+/// The files that one factory has loaded. The cache lives as long as the factory, so a file that changes is not read
 /// again.
 #pragma once
 
@@ -21,8 +21,8 @@ struct ISFSettings;
 
 namespace Effect::Factory {
 
-/// Whatever cannot be had is logged in one line at severity WARNING each time that it is asked for, so that the log of
-/// each conversion names the files that it lacked, even where a file is not read again.
+/// A missing or broken file is logged at severity WARNING, one line, on every request, so that the log of each
+/// conversion names the files that it lacked, even where a failed file is not read again.
 class FactoryCaches
 {
 public:
@@ -30,7 +30,7 @@ public:
     /// that is missing or empty is.
     std::shared_ptr<Quoril::Proc::LUT::LUTTable> lutTable(QString const & resourceName);
 
-    /// The shader that was loaded for that name first, whatever its path; never null.
+    /// The shader first loaded under that name, even from another path; never null.
     std::shared_ptr<External::ShaderISF::ISFSettings> isfSettings(QString const & resourceName, QString const & path);
 
     ImageHolder images; ///< by path
@@ -46,8 +46,8 @@ private:
     QMap<QString, std::shared_ptr<External::ShaderISF::ISFSettings>> m_isfSettings; // likewise
 };
 
-/// What a video conversion is given. Most need the render's parameters at most and take a `VideoParams const &`; one
-/// that loads something takes the context.
+/// The arguments of a video conversion. Most use only the render's parameters and take a `VideoParams const &`; those
+/// that load files take the context.
 struct VideoContext : VideoParams
 {
     VideoContext(VideoParams const & params, FactoryCaches & factoryCaches)

@@ -13,8 +13,7 @@ class QImage;
 
 namespace Effect::Factory {
 
-/// Decodes each image once and hands it out again and again: a settings object that was given an image shares it, and
-/// keeps it alive when the holder is gone.
+/// Decodes each image once. Settings objects share the image and keep it alive beyond the holder.
 ///
 /// There is no limit and no eviction: presets name a few dozen stock images. No lock either: see `SettingsFactory`.
 class ImageHolder

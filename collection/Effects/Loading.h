@@ -1,5 +1,5 @@
 /// @file
-/// What conversions share that load files.
+/// Loading of files for conversions.
 #pragma once
 
 #include <optional>
@@ -13,7 +13,7 @@ namespace Effect::Factory {
 /// @param problem  receives why there is nothing, or why the text is empty
 std::optional<QByteArray> resourceText(QString const & resourceName, QString & problem);
 
-/// Logs in one line at severity WARNING that a conversion goes without a file that it wanted to load.
+/// Logs, in one line at severity WARNING, that a file could not be loaded.
 /// @param what  such as "LUT"
 /// @param name  of the resource or the file
 void warnOfMissing(char const * what, QString const & name, QString const & problem);

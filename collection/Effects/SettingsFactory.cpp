@@ -45,7 +45,7 @@ template <class Params>
 EffectSettings lookUp(ConversionTable<Params> const & table, Object const & effect, Params const & params)
 {
     auto const found = table.constFind(effect.id);
-    // An object of the very class that is converted is no descriptor, which saves a search of its bases.
+    // A descriptor's class is never in the table, so an exact match saves a `dynamic_cast`.
     bool const isConverted = found != table.constEnd() && *found->effectClass == typeid(effect);
     if (!isConverted && dynamic_cast<EffectDescriptor const *>(&effect)) {
         LOG(ERROR) << "Settings requested for descriptor. Effect ID is " << effect.id.toStdString();

@@ -258,7 +258,7 @@ std::string makePage(QString const & stock)
     return text;
 }
 
-/// Whether the file holds the page; else tells where they differ first.
+/// Whether the file equals the page; else prints the first difference.
 bool isCurrent(std::string const & path, std::string const & page)
 {
     std::ifstream file(path);

@@ -25,20 +25,27 @@ _effectctl()
     local options=--help
     case $command in
         '')
-            _effectctl_words "--help --version list describe schema show archive check diff patch edit salvage convert catalogue lut tool"
+            _effectctl_words "--help --version list describe schema show archive check diff patch edit salvage redact relink pack unpack convert catalogue search new gallery lut tool"
             return ;;
         list) options+=' --json --effects' ;;
         describe) options+=' --json' ;;
         schema) options+=' --items --closed' ;;
         show) options+=' --class --json' ;;
-        archive) options+=' --format' ;;
+        archive) options+=' --to --format --json --jsonl' ;;
         check) options+=' --strict --json --jsonl' ;;
         diff) options+=' --json' ;;
         patch) options+=' --output' ;;
         edit) options+=' --set --unset --output --json --jsonl' ;;
         salvage) options+=' --json' ;;
+        redact) ;;
+        relink) options+=' --in --hashes --json --jsonl' ;;
+        pack) options+=' --licence --author --version --json' ;;
+        unpack) options+=' --json' ;;
         convert) options+=' --batch --class --set --resource --track --video --duration --sample-rate --report --json --jsonl' ;;
-        catalogue) options+=' --stock --user --json --convert' ;;
+        catalogue) options+=' --stock --user --json --long --convert' ;;
+        search) options+=' --stock --user --json' ;;
+        new) options+=' --output --category --set' ;;
+        gallery) options+=' --stock --user' ;;
         lut) options+=' --json --jsonl' ;;
         tool) options+=' --class --json --jsonl' ;;
         *) return ;;
@@ -53,7 +60,7 @@ _effectctl()
         --format)
             _effectctl_words "json bin"
             return ;;
-        --stock | --user)
+        --stock | --user | --to | --in)
             compopt -o filenames 2>/dev/null
             mapfile -t COMPREPLY < <(compgen -d -- "$word")
             return ;;
@@ -78,7 +85,12 @@ _effectctl()
         _effectctl_words "$options"
     elif [[ $command == describe || $command == schema ]]; then
         _effectctl_words "$(_effectctl_classes)"
-    elif [[ $command != list && $command != catalogue ]]; then
+    elif [[ $command == new && $previous == new ]]; then
+        _effectctl_words "$(_effectctl_classes --effects)"
+    elif [[ $command == gallery ]]; then
+        compopt -o filenames 2>/dev/null
+        mapfile -t COMPREPLY < <(compgen -d -- "$word")
+    elif [[ $command != list && $command != catalogue && $command != search ]]; then
         _effectctl_files "$word"
     fi
 }

@@ -2,7 +2,7 @@
 """Compiles the stock shaders with glslangValidator (Debian: glslang-tools), for desktop GL and for GL ES.
 
 An ISF file (.fs) is compiled as a host would: the JSON comment at its head gives the uniforms, and the functions and
-variables of the format are declared before its text. A .frag file is compiled as it stands.
+variables of the format are declared before its text. A .frag file is compiled unchanged.
 """
 
 import json

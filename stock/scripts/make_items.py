@@ -530,7 +530,7 @@ def main():
         written = set()
         for item in items:
             if item.file_name() in written:
-                raise ValueError(f"{name}/{item.file_name()} stands twice")
+                raise ValueError(f"{name}/{item.file_name()} exists already")
             written.add(item.file_name())
             text = json.dumps(item.document(documents), indent=2, ensure_ascii=False) + "\n"
             (folder / item.file_name()).write_text(text, encoding="utf-8", newline="\n")

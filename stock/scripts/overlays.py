@@ -104,7 +104,7 @@ def polaroid_frame():
     canvas = new_canvas()
     canvas.fill(card, linear((0, 0), (WIDTH, HEIGHT), "#fdfbf4", "#f4f0e4", "#e9e3d3"))
     canvas.edge(card, "#8d826a80", -6, -6, 12)
-    # The card stands above the photograph: a lit bevel, and within it a shadow on the picture.
+    # The card floats above the photograph: a lit bevel, and within it a shadow on the picture.
     with canvas.layer(blur=2.5):
         canvas.stroke(moved(window, -1, -1), "#b9af97", 5)
     canvas.stroke(moved(window, 1.2, 1.2), "#ffffff", 3)

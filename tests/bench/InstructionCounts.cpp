@@ -8,11 +8,12 @@
 #include <string>
 #include <vector>
 
+#include <collection/Effects/ContentProvider.h>
 #include <EditorModel/CollectionProvider.h>
 #include <EditorModel/EffectArchive.h>
 #include <EditorModel/EffectFactory.h>
 #include <EditorSerialization/Registry.h>
-#include <effects/Effects.h>
+#include <effects/Composition.h>
 
 #include "../../bench/VariedEffects.h"
 

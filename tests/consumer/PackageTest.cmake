@@ -30,6 +30,8 @@ function(use_package prefix)
   run(ignored "${CMAKE_COMMAND}" --build "${build}")
   file(READ "${build}/translations" translations)
   expect_programs_to_work("find_package" "${build}" "${prefix}" "${translations}")
+  run(text "${build}/check")
+  expect_in("${text}" "did you mean \"transform\"?" "The output of check")
   run(text "${build}/own_libraries")
   expect_in("${text}" "Effect::Crop" "The output of a host with libraries of its own")
 

@@ -49,7 +49,7 @@ def main():
     if not found:
         sys.exit(f"{path}: there is nothing to run")
     with tempfile.TemporaryDirectory() as folder:
-        # Neither the content of an installation nor that of whoever runs this.
+        # Neither the content of an installation nor that of the user who runs this.
         os.environ.update(EDITOR_STOCK_DIR=folder, EDITOR_USER_DIR=folder)
         for line, commands, expected in found:
             status, output = run(commands, folder)

@@ -1,13 +1,13 @@
 #!/usr/bin/env python3
-"""Follows docs/adding-an-effect.md in a copy of the sources: `recipe.py SOURCES BUILD`, BUILD being a tree of Ninja with
-everything built.
+"""Follows docs/adding-an-effect.md in a copy of the sources: `recipe.py SOURCES BUILD [--whole]`, BUILD being a tree of
+Ninja with everything built.
 
 The three pieces of the page are put in their files, and the library, as far as they change it, is compiled and linked
 with the tests. Then the tests that the page's table names fail, and no others, each naming what is missing. With the
 rows and files that the page asks for, all of them pass.
 
 Only the objects that depend on the three pieces by more than a declaration are compiled anew; the others are those of
-the build tree.
+the build tree. With --whole the copy, a repository of its own then, is built from nothing and all of its tests are run.
 """
 
 import concurrent.futures
@@ -198,6 +198,19 @@ def add_files(copy):
                       encoding="utf-8")
 
 
+def test_all(copy):
+    """What is left of the page's table, and then everything that CI runs of the tests."""
+    shutil.rmtree(copy.objects)
+    for arguments in (["init", "--quiet"], ["add", "--all"],
+                      ["-c", "user.name=x", "-c", "user.email=x", "commit", "--quiet", "--message", f"Add {NAME}"]):
+        run(["git", *arguments], cwd=copy.root)
+    environment = {name: value for name, value in os.environ.items() if name != "EDITOREFFECTS_CMAKE_FLAGS"}
+    run(["script/make-reference"], cwd=copy.root, env=environment)
+    run(["script/test", "-R", "^Boundary"], cwd=copy.root, env={**environment, "EDITOREFFECTS_UPDATE_GOLDEN": "1"})
+    # This test would follow the page once more.
+    print(run(["script/test", "-LE", "recipe"], cwd=copy.root, env=environment))
+
+
 def main():
     sources, build = (pathlib.Path(argument).resolve() for argument in sys.argv[1:3])
     with tempfile.TemporaryDirectory() as folder:
@@ -231,6 +244,8 @@ def main():
                         env=copy.environment())
         if f"### Effect::{NAME}\n" not in reference:
             sys.exit("the page of all effects does not have it")
+        if not left and "--whole" in sys.argv:
+            test_all(copy)
         sys.exit(1 if left else 0)
 
 

@@ -32,7 +32,7 @@ TEST(AudioEqualizer, Defaults)
     EXPECT_THAT(effect.multiband, IsEmpty());
 }
 
-// In hundredths of a decibel, a column a band: each digit stands for itself here, no row is taken from another.
+// In hundredths of a decibel, a column per band: every digit is written out, no row is derived from another.
 constexpr std::array<std::array<int, 10>, 24> hundredths{{
     // 31   63  125  250  500 1000 2000 4000 8000 16000
     {0, 0, 0, 0, 0, 0, 0, 0, 0, 0},                        // 0

@@ -63,7 +63,7 @@ TEST(EffectsHolder, NullMakesAnEmptySlot)
     EXPECT_EQ(holder.effects[0], nullptr);
 }
 
-// An effect that tells when it is gone.
+// An effect that reports its destruction.
 struct Watched : AudioFilter
 {
     explicit Watched(bool & gone)

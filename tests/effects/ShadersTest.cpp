@@ -62,7 +62,7 @@ TEST(Shaders, Classes)
 TEST(Lut, HasNoKeysOfItsOwn)
 {
     EXPECT_EQ(ownKeys(Lut()), json::object());
-    // Its file is told where every effect's is.
+    // Its file is stored in the field that every effect has.
     json const document = json::parse(Archive::toJson(Lut("warm")));
     EXPECT_EQ(
         document["Effect::VideoEffect"]["Effect::Object"]["resource"], json::parse(R"({"name": "warm", "type": 4})"));

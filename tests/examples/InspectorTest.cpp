@@ -3,6 +3,7 @@
 
 #include <cstdlib>
 
+#include <collection/Effects/ContentProvider.h>
 #include <EditorModel/CollectionProvider.h>
 #include <examples/inspector.h>
 

@@ -1,7 +1,16 @@
 #include <algorithm>
+#include <sstream>
 
 #include <EditorUtil/ItemFile.h>
-#include <effects/Effects.h>
+#include <effects/Base.h>
+#include <effects/CleanUp.h>
+#include <effects/ColorCorrection.h>
+#include <effects/Dynamics.h>
+#include <effects/Equalizer.h>
+#include <effects/Holder.h>
+#include <effects/Identity.h>
+#include <effects/Mask.h>
+#include <effects/Shaders.h>
 
 #include "Effectctl.h"
 
@@ -99,16 +108,37 @@ TEST_F(CatalogueCommand, PrintsADocument)
     EXPECT_EQ(document["summary"], (json{{"items", 4}, {"unreadable", 0}}));
 }
 
-TEST_F(CatalogueCommand, PrintsTables)
+TEST_F(CatalogueCommand, PrintsASummaryFirst)
 {
     fill();
     auto const run = effectctl(arguments());
     EXPECT_EQ(run.status, 0) << run.errors;
-    EXPECT_THAT(run.output, StartsWith("Effects: 2 items\nCLASS\tTAG\t"));
-    EXPECT_THAT(run.output, HasSubstr("\nShader effects: 0 items\n"));
-    EXPECT_THAT(run.output, HasSubstr("\nAudioEnhance: 1 item\n"));
-    EXPECT_THAT(run.output, HasSubstr("category_a category_b"));
-    EXPECT_THAT(run.output, testing::EndsWith("\n4 items; 0 files could not be read\n"));
+    EXPECT_THAT(run.output, StartsWith("4 items; 0 files could not be read\n\nCOLLECTION\tITEMS\nEffects\t2\n"));
+    EXPECT_THAT(run.output, HasSubstr("\nShader effects\t0\n"));
+    EXPECT_THAT(run.output, HasSubstr("\nAudioEnhance\t1\n"));
+    EXPECT_THAT(run.output, testing::Not(HasSubstr("category_a")));
+}
+
+TEST_F(CatalogueCommand, PrintsItemsWhenAsked)
+{
+    fill();
+    auto const run = effectctl(arguments({"--long", "--convert"}));
+    EXPECT_EQ(run.status, 0) << run.errors;
+    EXPECT_THAT(run.output, StartsWith("4 items; 0 files could not be read\n  2 converted\n"));
+    EXPECT_THAT(run.output, HasSubstr("\nEffects\n  " + Tags::tagBackgroundRemove.toStdString() +
+                                      " Effect::BackgroundRemove descriptor\n    category_a category_b\n"));
+    EXPECT_THAT(run.output, HasSubstr(" Effect::ManualEnhance user converted\n"));
+}
+
+TEST_F(CatalogueCommand, FitsAPage)
+{
+    for (QStringList const & options : {QStringList{"--long", "--convert"}, QStringList{}}) {
+        auto const run = effectctl(QStringList{"catalogue", "--stock", STOCK_FOLDER, "--user", user()} + options);
+        EXPECT_EQ(run.status, 0) << run.errors;
+        std::istringstream lines(run.output);
+        for (std::string line; std::getline(lines, line);)
+            EXPECT_LE(line.size(), 80U) << line;
+    }
 }
 
 TEST_F(CatalogueCommand, ConvertsEveryItem)
@@ -126,8 +156,12 @@ TEST_F(CatalogueCommand, ConvertsEveryItem)
                                        {"holders", 1}, {"held", 2}, {"incomplete", 0}, {"notConverted", 0}}));
 
     EXPECT_THAT(effectctl(arguments({"--convert"})).output,
-        testing::EndsWith("\n4 items: 2 converted, 1 descriptor, 1 holder with 2 effects converted each on its own, "
-                          "0 incomplete, 0 not converted; 0 files could not be read\n"));
+        StartsWith("4 items; 0 files could not be read\n"
+                   "  2 converted\n"
+                   "  1 descriptor, for the editor and not the render engine\n"
+                   "  1 holder with 2 effects, each converted on its own\n"
+                   "  0 incomplete\n"
+                   "  0 not converted\n"));
 }
 
 TEST_F(CatalogueCommand, TellsWhatDidNotConvert)
@@ -212,7 +246,7 @@ TEST_F(CatalogueCommand, TakesAnEmptyStock)
     QDir().mkpath(stock() + "/Luts");
     auto const run = effectctl(arguments({"--convert"}));
     EXPECT_EQ(run.status, 0) << run.errors;
-    EXPECT_THAT(run.output, HasSubstr("\n0 items: "));
+    EXPECT_THAT(run.output, StartsWith("0 items; 0 files could not be read\n  0 converted\n"));
 }
 
 TEST_F(CatalogueCommand, NoticesAWrongStockFolder)
@@ -270,7 +304,7 @@ TEST_F(CatalogueCommand, QuotesWhatAFilePutsIntoATable)
     AutoContrast effect;
     effect.tag = QString::fromUtf8("two\nlines \x1b[31m");
     storeItem(stock() + "/VideoEffects", "odd", effect);
-    auto const run = effectctl(arguments());
+    auto const run = effectctl(arguments({"--long"}));
     EXPECT_THAT(run.output, HasSubstr(R"("two\nlines \u001b[31m")"));
 }
 

@@ -1,5 +1,11 @@
 #include <EditorModel/EffectArchive.h>
-#include <effects/Effects.h>
+#include <effects/CleanUp.h>
+#include <effects/ColorCorrection.h>
+#include <effects/Composition.h>
+#include <effects/Geometry.h>
+#include <effects/Holder.h>
+#include <effects/Identity.h>
+#include <effects/Shaders.h>
 
 #include <algorithm>
 #include <map>

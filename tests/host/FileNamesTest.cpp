@@ -1,6 +1,6 @@
 // File names are bytes: those that are no UTF-8 are read and written like any other, in every locale.
 #include <EditorModel/EffectArchive.h>
-#include <effects/Effects.h>
+#include <effects/Geometry.h>
 
 #include <cstdlib>
 #include <filesystem>

@@ -10,7 +10,6 @@
 #include <EditorModel/EffectArchive.h>
 #include <EditorSerialization/JsonArchive.h>
 #include <EditorUtil/ItemFile.h>
-#include <effects/Effects.h>
 #include <effects/Schema.h>
 #include <support/Variations.h>
 

@@ -1,5 +1,8 @@
 // Changes of single parameters: `--set KEY=VALUE`.
-#include <effects/Effects.h>
+#include <effects/Composition.h>
+#include <effects/Geometry.h>
+#include <effects/Holder.h>
+#include <effects/Shaders.h>
 #include <inspect/Changes.h>
 #include <inspect/Failure.h>
 

@@ -7,7 +7,7 @@
 #include <unistd.h>
 
 #include <EditorUtil/ItemFile.h>
-#include <effects/Effects.h>
+#include <effects/Composition.h>
 
 #include <support/Resources.h>
 

@@ -4,7 +4,7 @@
 
 #include <EditorModel/EffectArchive.h>
 #include <EditorModel/MotionTracking.h>
-#include <effects/Effects.h>
+#include <effects/ColorCorrection.h>
 
 #include <QTemporaryDir>
 

@@ -1,7 +1,11 @@
 #include <inspect/Conversion.h>
 
 #include <EditorModel/EffectFactory.h>
-#include <effects/Effects.h>
+#include <effects/ColorCorrection.h>
+#include <effects/Composition.h>
+#include <effects/Geometry.h>
+#include <effects/Holder.h>
+#include <effects/Shaders.h>
 #include <inspect/Failure.h>
 
 #include <glog/logging.h>

@@ -1,7 +1,7 @@
 #include <inspect/EffectFile.h>
 
 #include <EditorModel/EffectArchive.h>
-#include <effects/Effects.h>
+#include <effects/ColorCorrection.h>
 #include <inspect/Failure.h>
 
 #include <gmock/gmock.h>

@@ -1,7 +1,11 @@
 #include <inspect/Report.h>
 
-#include <effects/Effects.h>
+#include <effects/CleanUp.h>
+#include <effects/ColorCorrection.h>
+#include <effects/Geometry.h>
+#include <effects/Modulation.h>
 #include <effects/Schema.h>
+#include <effects/Shaders.h>
 #include <inspect/Documents.h>
 
 #include <gmock/gmock.h>

@@ -10,7 +10,10 @@
 #include <EditorSerialization/Error.h>
 #include <EditorSerialization/JsonArchive.h>
 #include <EditorSerialization/StreamSerializer.h>
-#include <effects/Effects.h>
+#include <effects/Equalizer.h>
+#include <effects/Holder.h>
+#include <effects/Mask.h>
+#include <effects/Modulation.h>
 #include <effects/Voice.h>
 
 #include <gtest/gtest.h>

@@ -7,7 +7,10 @@
 #include <EditorModel/EffectArchive.h>
 #include <EditorModel/EffectDocument.h>
 #include <EditorSerialization/Error.h>
-#include <effects/Effects.h>
+#include <effects/Composition.h>
+#include <effects/Geometry.h>
+#include <effects/Holder.h>
+#include <effects/Mask.h>
 #include <support/Variations.h>
 
 #include <gmock/gmock.h>

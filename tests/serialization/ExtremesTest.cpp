@@ -71,7 +71,7 @@ TEST(Extremes, SurviveEveryArchive)
                 json changed = document;
                 changed[json::json_pointer(path)] = extreme;
                 auto const object = objectOf(changed);
-                // The texts tell -0.0 from 0.0, which the documents do not.
+                // The texts distinguish -0.0 from 0.0, the documents do not.
                 EXPECT_EQ(documentOf(*object).dump(), changed.dump());
                 EXPECT_EQ(documentOf(*throughBytes(*object)).dump(), changed.dump());
             }

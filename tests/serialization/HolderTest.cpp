@@ -11,7 +11,11 @@
 #include <EditorSerialization/JsonArchive.h>
 #include <EditorSerialization/Registry.h>
 #include <EditorSerialization/StreamSerializer.h>
-#include <effects/Effects.h>
+#include <effects/ColorCorrection.h>
+#include <effects/Equalizer.h>
+#include <effects/Holder.h>
+#include <effects/Identity.h>
+#include <effects/Modulation.h>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -271,7 +275,7 @@ TEST(HolderInJson, ReadingReplacesWhatWasThere)
 
 // The polymorphic interfaces.
 
-/// Writes down what it is told, and goes into no object.
+/// Records the calls and does not descend into objects.
 class Recorder final : public Serialize::ISerializer, private Serialize::IValueWriter
 {
 public:

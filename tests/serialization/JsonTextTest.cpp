@@ -1,5 +1,6 @@
 // JSON texts without a tree: the same texts and the same objects as the archives', or a refusal.
 
+#include <cmath>
 #include <cstdlib>
 #include <cstring>
 #include <limits>
@@ -15,7 +16,9 @@
 #include <EditorSerialization/JsonText.h>
 #include <EditorSerialization/Layout.h>
 #include <EditorSerialization/Registry.h>
-#include <effects/Effects.h>
+#include <effects/Composition.h>
+#include <effects/Holder.h>
+#include <effects/Identity.h>
 #include <support/Variations.h>
 
 #include "Chain.h"
@@ -396,6 +399,8 @@ TEST(JsonText, NumbersAreThoseOfTheTree)
         -Limits::infinity(), Limits::quiet_NaN(), 4.35, 0.3, 2.0 / 3, 123456.7890625};
     for (int exponent = -320; exponent <= 308; ++exponent)
         numbers.push_back(std::strtod(("1.2345678901234567e" + std::to_string(exponent)).c_str(), nullptr));
+    for (int exponent = -1074; exponent <= 1023; ++exponent) // below which the doubles are closer than above
+        numbers.push_back(std::ldexp(1.0, exponent));
     while (numbers.size() < 200'000) {
         std::uint64_t const bits = random();
         double number = 0;
@@ -422,6 +427,108 @@ TEST(JsonText, NumbersAreThoseOfTheTree)
             }
         }
     }
+}
+
+TEST(JsonText, DecimalsAreReadAsTheNearestDoubles)
+{
+    std::vector<std::string> texts{
+        // half way between two doubles, so that the even one is nearest: 2^53 + 1, 2^52 + 1.5, 2^52 + 0.5, 2^54 + 2
+        "9007199254740993", "9007199254740993.0", "4503599627370497.5", "4503599627370496.5", "18014398509481986.00",
+        // a unit of the last place beside it
+        "9007199254740993.1", "9007199254740992.9", "4503599627370497.51", "4503599627370497.49",
+        // by less than a two thousandth of a unit above the middle, below it, and below the next double
+        "8249778.652729566675", "8721.512005252233394", "8.004519385977377333", "78191.40735761775432",
+        "22678897522851.79883", "3.062797953636671844", "839870045.4507562518", "8.673409999914794887",
+        "64106.81062061470220", "463.1661249545361727", "58171851941.71638870", "9010490.218901810236",
+        "8125.191203982675688", "3147833050794.402832", "489.6204060377982614", "497782.3289026939310",
+        // up to the last mantissa, and over it into the next exponent
+        "9007199254740991.4", "9007199254740991.5", "9007199254740991.6", "0.99999999999999995", "0.99999999999999994",
+        "1.9999999999999999", "1.99999999999999988", "1.99999999999999989",
+        // as many digits as 64 bits hold, and one more
+        "9.999999999999999999", "99.99999999999999999", "9.9999999999999999999", "18446744073709551615",
+        "18446744073709551616.5", "1844674407370955161.5",
+        // many places
+        "0.000000000000000000000000001", "0.0000000000012345678901234567", "0.00000000012345678901234567",
+        "0.000000000000000000000000000123456789", "0.1234567890123456789012345678901234567890",
+        "0.00000000000000000000009007199254740993",
+        // the exact decimals of short binary fractions
+        "0.5000000000000000000", "0.0009765625000000000", "3.1415926535897931", "0.1000000000000000055511151231257827"};
+    std::mt19937_64 random(16);
+    while (texts.size() < 90'000) {
+        // Each number of digits at each place of the point.
+        std::string digits =
+            std::to_string(random() | std::uint64_t(1) << 63).substr(0, 20 - random() % (random() % 19 + 1));
+        std::size_t const whole = random() % (digits.size() + 1);
+        std::string fraction = std::string(random() % 3 == 0 ? random() % 12 : 0, '0') + digits.substr(whole);
+        if (fraction.empty())
+            fraction = '0';
+        digits.resize(whole);
+        texts.push_back((random() % 2 ? "-" : "") + (digits.empty() ? "0" : digits) + '.' + fraction);
+    }
+    while (texts.size() % 9 != 0)
+        texts.emplace_back("0");
+    for (std::size_t start = 0; start < texts.size(); start += 9) {
+        std::string list;
+        for (std::size_t index = 0; index < 9; ++index)
+            list += (index > 0 ? "," : "") + texts[start + index];
+        auto const read = readObject(R"({"$meta":{"class":"Effect::SideBySide"},"transformSrc":{"m":[)" + list + "]}}");
+        ASSERT_NE(read, nullptr) << list;
+        auto const & effect = dynamic_cast<Effect::SideBySide const &>(*read);
+        for (std::size_t index = 0; index < 9; ++index)
+            ASSERT_EQ(effect.transformSrc[index], std::strtod(texts[start + index].c_str(), nullptr))
+                << texts[start + index];
+    }
+}
+
+TEST(JsonText, NumbersEndWhereTheTextOrTheDigitsEnd)
+{
+    // Eight bytes are read at once where there are as many.
+    for (std::string const digits : {"1", "1234567", "12345678", "123456789", "1234567890123456", "12345678901234567"})
+        for (std::string const behind : {"", "/", ":", "\xFF", "x234567", "\x01", "/////////"}) {
+            std::string const text = opacity("\"opacity\":0." + digits + behind);
+            EXPECT_EQ(readObject(text) != nullptr, behind.empty()) << text;
+            std::string const cut = text.substr(0, text.size() - 1);
+            EXPECT_EQ(readObject(cut), nullptr) << cut;
+        }
+}
+
+TEST(JsonText, TextsOfEveryLength)
+{
+    // Eight characters are compared, copied and written at once; the last eight may overlap those before.
+    std::string const letters = "abcdefghijklmnopqrstuvwxyzABCDEFGHIJ";
+    for (std::size_t size = 0; size <= letters.size(); ++size)
+        for (std::size_t place = 0; place <= size; ++place) {
+            QString tag = QString::fromLatin1(letters.data(), static_cast<int>(size));
+            for (QChar const other : {QChar('"'), QChar(0x7F), QChar(0xFF), QChar(0x161), QChar('a')}) {
+                if (place < size)
+                    tag[static_cast<int>(place)] = other;
+                Effect::Opacity effect;
+                effect.tag = tag;
+                std::string const text = writeObject(effect);
+                ASSERT_EQ(text, documentOf(effect).dump());
+                auto const read = readObject(text);
+                ASSERT_NE(read, nullptr);
+                ASSERT_EQ(dynamic_cast<Effect::Opacity const &>(*read).tag, tag);
+            }
+        }
+}
+
+TEST(JsonText, ReplacesATextThatDiffersInOnePlace)
+{
+    // The default identifier, of 36 characters, stays where the text is the same.
+    std::string const id = Effect::Id::Opacity.toStdString();
+    for (std::size_t place = 0; place < id.size(); ++place) {
+        std::string other = id;
+        other[place] = '~';
+        auto const read = readObject(object(R"("id":")" + other + '"'));
+        ASSERT_NE(read, nullptr);
+        EXPECT_EQ(dynamic_cast<Effect::Opacity const &>(*read).id.toStdString(), other);
+    }
+    auto const shorter = readObject(object(R"("id":")" + id.substr(0, 35) + '"'));
+    EXPECT_EQ(dynamic_cast<Effect::Opacity const &>(*shorter).id.toStdString(), id.substr(0, 35));
+    auto const empty = readObject(object(R"("id":"")"));
+    EXPECT_TRUE(dynamic_cast<Effect::Opacity const &>(*empty).id.isEmpty());
+    EXPECT_FALSE(dynamic_cast<Effect::Opacity const &>(*empty).id.isNull());
 }
 
 void expectStaticTexts(Serialize::ISerializable & object, Serialize::Layout const & layout)

@@ -6,7 +6,9 @@
 #include <EditorSerialization/Error.h>
 #include <EditorSerialization/ObjectTracker.h>
 #include <EditorSerialization/Registry.h>
-#include <effects/Effects.h>
+#include <effects/Equalizer.h>
+#include <effects/Holder.h>
+#include <effects/Modulation.h>
 #include <effects/Voice.h>
 
 #include <gmock/gmock.h>

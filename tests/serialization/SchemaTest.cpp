@@ -10,9 +10,13 @@
 
 #include <EditorSerialization/BinaryArchive.h>
 #include <EditorSerialization/Registry.h>
-#include <effects/Effects.h>
+#include <effects/Composition.h>
+#include <effects/Geometry.h>
 #include <effects/HiddenFamilies.h>
+#include <effects/Holder.h>
+#include <effects/Mask.h>
 #include <effects/Schema.h>
+#include <effects/Shaders.h>
 #include <support/Variations.h>
 
 #include <gmock/gmock.h>

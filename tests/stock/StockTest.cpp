@@ -20,12 +20,17 @@
 #include <effects/Artistic.h>
 #include <effects/Blur.h>
 #include <effects/ColorFilters.h>
-#include <effects/Effects.h>
+#include <effects/Equalizer.h>
+#include <effects/Holder.h>
 #include <effects/Light.h>
+#include <effects/Modulation.h>
 #include <effects/Retro.h>
+#include <effects/Shaders.h>
+#include <effects/Version.h>
 #include <support/Conversion.h>
 #include <support/LogCapture.h>
 #include <utils/CollectionNames.h>
+#include <utils/EffectUtils.h>
 #include <utils/LutUtils.h>
 
 #include <QFileInfo>

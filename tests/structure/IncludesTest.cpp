@@ -128,6 +128,18 @@ TEST(Includes, PlatformLibrariesFormNoCircle)
     EXPECT_THAT(left, testing::IsEmpty());
 }
 
+TEST(Includes, TestsIncludeTheFamiliesThatTheyUse)
+{
+    // A test that includes them all is compiled again whenever one family changes. Those that need them all go by the
+    // list of families; `Plugin.cpp` and what is built outside of the tree are hosts.
+    std::set<fs::path> const exceptions{"tests/serialization/AllClasses.h", "tests/structure/Plugin.cpp"};
+    for (std::string const folder : {"bench", "fuzz", "host", "inspect", "tests"})
+        for (Include const & include : includesBelow(folder))
+            if (exceptions.count(include.file) == 0 && include.file.string().rfind("tests/consumer/", 0) != 0) {
+                EXPECT_NE(include.target, "effects/Effects.h") << testing::PrintToString(include);
+            }
+}
+
 TEST(Includes, PublicHeadersOfTheModelPullInNoJsonLibrary)
 {
     for (std::string const folder : {"effects", "platform/EditorModel/include", "platform/Settings/include"})

@@ -28,7 +28,7 @@ struct Converted
 Converted convert(Effect::Object const & effect, Effect::Factory::VideoParams const & params = {});
 Converted convert(Effect::Object const & effect, Effect::Factory::AudioParams const & params);
 
-/// The description of a settings object: class, calls and fields, the last two as they stand between the brackets,
+/// The description of a settings object: class, calls and fields, the last two without their brackets,
 /// such as `["SetScale", 1]` and `"gamma": 1`.
 std::string settings(std::string const & className, std::string const & calls, std::string const & fields = "");
 

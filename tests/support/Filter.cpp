@@ -53,7 +53,7 @@ void expectForm(FilterForm const & form)
     EXPECT_THAT(bytes, testing::EndsWith(form.otherBytes));
     EXPECT_EQ(json::parse(Archive::toJson(*Archive::fromBinary(bytes))), document);
 
-    // Every key that the table tells has a value that is not the default.
+    // Every key of the table has a value other than the default.
     ASSERT_EQ(fields.size(), otherFields.size());
     for (auto const & [key, value] : fields.items())
         EXPECT_NE(value, otherFields.value(key, json())) << key;

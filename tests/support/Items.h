@@ -14,7 +14,7 @@
 
 namespace Testing {
 
-/// The process's item storage while it lives: it remembers what it is asked for and delivers what it is told to.
+/// The process's item storage while it lives: it records the requests and delivers the given items.
 class ManualStorage final : public EditorCollection::IItemStorage
 {
 public:

@@ -5,8 +5,12 @@
 
 #include <collection/Effects/ContentProvider.h>
 #include <EditorModel/Resource.h>
-#include <effects/Effects.h>
+#include <effects/Base.h>
+#include <effects/CleanUp.h>
+#include <effects/Composition.h>
+#include <effects/Identity.h>
 #include <effects/PrivateIdentity.h>
+#include <effects/Shaders.h>
 #include <support/Items.h>
 
 #include <QFile>

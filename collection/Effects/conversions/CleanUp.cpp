@@ -10,7 +10,7 @@ void addCleanUp(Conversions & table)
     table.add<AudioNoiseSuppress, Proc::SettingsAudioNoiseSuppress>(
         Id::NoiseSuppress,
         [](auto & settings, AudioNoiseSuppress const & effect) {
-            // Truncated, not rounded: 1 and 2 per cent are no suppression at all. No percentage leaves the range.
+            // Truncated, not rounded, so 1 and 2 percent suppress nothing. Every percentage fits an int.
             settings.SetLevel(static_cast<int>(0.5 - 0.6 * effect.levelPercent));
         },
         Stage::audio, Proc::ImplNames::SPEEX);

@@ -82,7 +82,7 @@ EffectSettings convertManualEnhance(ManualEnhance const & effect, VideoParams co
     static ManualEnhance const atRest;
     auto const moved = [&](double ManualEnhance::*slider) { return !fuzzyEqual(effect.*slider, atRest.*slider); };
 
-    // Sliders at rest must cost the engine nothing: only those that moved become settings.
+    // Only sliders that are not at rest become settings, so the others cost the engine nothing.
     EffectSettings record{{}, Stage::video, Proc::ImplNames::DEFAULT};
     if (moved(&ManualEnhance::tint))
         record.settings.push_back(tint(effect));

@@ -55,7 +55,7 @@ double overhang(double distance)
 
 EffectSettings convertPictureInPicture(PictureInPicture const & effect, VideoParams const &)
 {
-    // A sub-frame that was told nothing shows the whole picture in the whole frame.
+    // An empty sub-frame shows the whole picture in the whole frame.
     if (effect.transform == Types::Transform())
         return makeEffectSettings(
             std::make_unique<Proc::SettingsEffectSubFrame>(), Stage::video, Proc::ImplNames::DEFAULT);
@@ -76,8 +76,8 @@ void addComposition(Conversions & table)
         QRectF const mapped = place(effect.transformSrc);
         QRectF const source = mapped & picture;
 
-        // What the source loses at the picture's edges the target gives up in proportion, so that the two keep
-        // corresponding. A source without a size loses no definite share: its target is not a number.
+        // Where the source is cut at the picture's edges, the target is cut in proportion, so that the scale stays
+        // the same. For a source of size zero the proportion, and with it the target, is NaN.
         QRectF target = place(effect.transformDst);
         double const left = overhang(mapped.left()) / mapped.width();
         double const top = overhang(mapped.top()) / mapped.height();

@@ -14,7 +14,7 @@ float relativeLevel(Decibel level)
     return static_cast<float>(level.toRelativeLevel());
 }
 
-/// The engine divides by times: none is shorter than a hundredth of a millisecond. Raised first, then narrowed.
+/// At least 0.01 ms, since the engine divides by it. The maximum is taken before the conversion to float.
 float raisedTime(std::int64_t milliseconds)
 {
     return static_cast<float>(std::max(static_cast<double>(milliseconds), 0.01));
@@ -43,18 +43,18 @@ void addDynamics(Conversions & table)
             settings.SetKnee(static_cast<float>(effect.knee));
         });
 
-    table.add<AudioCompressor, Proc::SettingsAudioCompressor>(
-        Id::Compressor, [](auto & settings, AudioCompressor const & effect) {
-            settings.SetIntensity(floatIntensity(effect));
-            setDetectionAndLink(settings, effect);
-            settings.SetLevelIn(relativeLevel(effect.gainIn));
-            settings.SetThreshold(effect.threshold.toRelativeLevel()); // the one level that the engine takes in full
-            settings.SetRatio(static_cast<float>(effect.ratio));
-            settings.SetAttack(raisedTime(effect.attack));
-            settings.SetRelease(raisedTime(effect.release));
-            settings.SetMakeup(relativeLevel(effect.gainOut));
-            settings.SetKnee(static_cast<float>(effect.knee));
-        });
+    table.add<AudioCompressor, Proc::SettingsAudioCompressor>(Id::Compressor, [](auto & settings,
+                                                                                  AudioCompressor const & effect) {
+        settings.SetIntensity(floatIntensity(effect));
+        setDetectionAndLink(settings, effect);
+        settings.SetLevelIn(relativeLevel(effect.gainIn));
+        settings.SetThreshold(effect.threshold.toRelativeLevel()); // the only level that the engine takes as a double
+        settings.SetRatio(static_cast<float>(effect.ratio));
+        settings.SetAttack(raisedTime(effect.attack));
+        settings.SetRelease(raisedTime(effect.release));
+        settings.SetMakeup(relativeLevel(effect.gainOut));
+        settings.SetKnee(static_cast<float>(effect.knee));
+    });
 }
 
 } // namespace Effect::Factory

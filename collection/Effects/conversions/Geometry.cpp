@@ -16,7 +16,7 @@ void addGeometry(Conversions & table)
     });
 
     table.add<Transpose, Proc::SettingsEffectTransform>(Id::Transpose, [](auto & settings, Transpose const & effect) {
-        // Multiplied first: 90 degrees are then the double nearest a right angle.
+        // Multiplied first, so that 90 degrees become the double nearest to pi/2.
         double const radians = static_cast<double>(effect.angle) * 3.141592653589793 / 180.0;
         settings.mode = Mode::Rotate;
         settings.matrix = Quoril::Conf::Transform2D::MakeRotation(radians);

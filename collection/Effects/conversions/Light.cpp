@@ -51,7 +51,7 @@ constexpr Flight flights[] = {
 
 namespace {
 
-// By preset: the engine's number. It knows nothing like 4 and 5.
+// The engine's number by preset. The engine has no counterpart of 4 and 5.
 constexpr std::optional<std::int32_t> flares[] = {0, 1, 2, 3, std::nullopt, std::nullopt, 4, 5};
 
 } // namespace

@@ -27,7 +27,7 @@ constexpr int methodCount = 3;
 constexpr int backgroundFillCount = 2;
 constexpr double frameParameter = 0.04;
 
-/// A frame that stands still.
+/// A frame that does not move.
 class DefaultFrameFunctor
 {
 public:
@@ -41,8 +41,8 @@ private:
     FrameMask m_frame;
 };
 
-/// A frame that follows a motion track. It owns all that it needs, for the engine asks it long after the conversion,
-/// from any thread; its copies share the paths, which never change.
+/// A frame that follows a motion track. It owns all of its data, since the engine calls it long after the conversion,
+/// on any thread; copies share the immutable paths.
 class TrackingFrameFunctor
 {
 public:
@@ -91,7 +91,7 @@ public:
     }
 
 private:
-    /// Nothing for a time that cannot be told, and that no track reaches.
+    /// Empty if the time is not finite or does not fit `MTime`; no track reaches that far.
     std::optional<MTime> timeAt(double position) const
     {
         constexpr double limit = 9223372036854775808.0; // 2^63
@@ -107,7 +107,7 @@ private:
     std::shared_ptr<MotionTrackingSmoothPath const> m_bottomRight;
 };
 
-/// The function of a frame, which follows its track if that can be read, and else stands where it was drawn.
+/// The function of a frame: it follows the track if that can be read, else it does not move.
 /// @param mask  all but its shape, its outline and its matrix
 FrameFunctor makeFrameFunctor(FrameMask mask, Frame const & frame, std::int64_t duration)
 {

@@ -15,7 +15,7 @@ void addMirroring(Conversions & table)
     });
 
     table.add<Mirror, Proc::SettingsEffectMirror>(Id::Mirror, [](auto & settings, Mirror const & effect) {
-        // A number that the engine does not know leaves the axis as it is.
+        // Unknown numbers leave the axis at the engine's default.
         settings.horizontal = knownValue(effect.horizontal, 3, settings.horizontal);
         settings.vertical = knownValue(effect.vertical, 3, settings.vertical);
     });

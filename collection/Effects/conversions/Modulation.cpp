@@ -25,7 +25,7 @@ void addModulation(Conversions & table)
             settings.modeA = 2;
             settings.modeB = 1;
             settings.modeC = 1;
-            // The balance turns one side down and never the other up: both are at full level in the middle.
+            // The balance only attenuates one side; in the middle both are at full level.
             double const balance = effect.dryWetBalance;
             settings.SetDryGain(balance > 0 ? 1 - balance : 1);
             settings.SetWetGain(balance < 0 ? 1 + balance : 1);

@@ -46,7 +46,7 @@ void addRetro(Conversions & table)
 
     table.add<FilmStrip, Proc::SettingsEffectFilmStrip>(Id::FilmStrip, [](auto & settings, FilmStrip const & effect) {
         using Type = Proc::SettingsEffectFilmStrip::Type;
-        // The engine counts from 1: its 0 is no strip.
+        // The engine counts from 1; 0 means no strip.
         static constexpr Type strips[] = {Type(1), Type(2), Type(3)};
 
         if (auto const * const strip = knownRow(strips, effect.type))

@@ -30,7 +30,7 @@ std::string shaderText(QString const & name)
     return text ? text->toStdString() : passThroughShader;
 }
 
-/// Null when there is no such picture.
+/// Null if the picture cannot be loaded.
 ImageHolder::Image auxImage(QString const & name)
 {
     Resource::ID const id(name, Resource::Type::Image);

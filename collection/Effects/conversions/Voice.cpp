@@ -36,12 +36,12 @@ template <class Effect> Bands bandPass(Effect const & effect)
             return 0;
         if (low < exponent && exponent < high)
             return effect.gainUp;
-        // Negated as an integer, which knows no -0, and a wide one, which holds the result.
+        // Negated as an integer, which has no -0, and as 64 bits, which hold the negation of every int32.
         return static_cast<double>(-std::int64_t(effect.gainDown));
     });
 }
 
-/// The sum, going around where it would overflow.
+/// The sum modulo 2^32.
 std::int32_t wrappingSum(std::int32_t a, std::int32_t b)
 {
     return static_cast<std::int32_t>(static_cast<std::uint32_t>(a) + static_cast<std::uint32_t>(b));

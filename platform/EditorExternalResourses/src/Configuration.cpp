@@ -18,9 +18,9 @@ using Serialize::shortenedText;
 namespace {
 
 using Json = nlohmann::json;
-using Output = nlohmann::ordered_json; // the keys stay in the order in which they are set
+using Output = nlohmann::ordered_json; // keeps the order in which keys are set
 
-/// An object of the head, and where it stands there.
+/// An object of the head, and its path.
 class Node
 {
 public:
@@ -101,7 +101,7 @@ bool isIdentifier(std::string_view text)
 class Names
 {
 public:
-    /// Takes `name`, which stands at `place`, or throws if it can't be a variable of its own.
+    /// Adds `name`, found at `place`; throws if it is not a valid or not a unique variable name.
     void add(std::string const & name, std::string const & place)
     {
         if (!isIdentifier(name))
@@ -114,7 +114,7 @@ private:
     std::set<std::string> m_names;
 };
 
-// Inputs. Each of these functions sets what an input of its type has beyond name, type and label.
+// Inputs. Each function sets the members of its input type besides name, type and label.
 
 void fillNothing(Node const &, Output &) {}
 
@@ -124,7 +124,7 @@ void fillBool(Node const & input, Output & output)
     setOptional(output, Keys::identity, input.get<bool>(Keys::identity));
 }
 
-/// A menu where the file has values or labels for one, otherwise a plain number.
+/// A menu if the file has values or labels, else a number.
 void fillLong(Node const & input, Output & output)
 {
     auto values = input.get<std::vector<std::int32_t>>(Keys::values);
@@ -149,7 +149,7 @@ void fillLong(Node const & input, Output & output)
     output[Keys::labels.upper] = labels;
 }
 
-/// The bound that the file leaves out is 0 or 1, or the other bound where that is beyond.
+/// A missing bound is 0 or 1, or the other bound where that is outside.
 void fillFloat(Node const & input, Output & output)
 {
     auto const givenMinimum = input.get<double>(Keys::minimum);
@@ -164,7 +164,7 @@ void fillFloat(Node const & input, Output & output)
     setOptional(output, Keys::identity, input.get<double>(Keys::identity));
 }
 
-/// A point has the bounds that the file gives, and no others.
+/// A point has only the bounds that the file gives.
 void fillPoint(Node const & input, Output & output)
 {
     using Point = std::array<double, 2>;
@@ -192,7 +192,7 @@ void fillColor(Node const & input, Output & output)
     setOptional(output, Keys::identity, input.get<Color>(Keys::identity));
 }
 
-/// The largest number of samples that the shader wants; without one it takes as many as there are.
+/// The maximum number of samples; without one, all samples are passed.
 void fillAudio(Node const & input, Output & output)
 {
     if (auto const samples = input.get<std::int32_t>(Keys::maximum); samples && *samples > 0)
@@ -249,7 +249,7 @@ Output makeInputs(Node const & head, Names & names)
 
 // Passes
 
-/// The buffers that version 1 lists apart from the passes, by name: an array of names, or an object that says more.
+/// The buffers that version 1 lists apart from the passes: an array of names, or an object with details by name.
 std::map<std::string, Node> findPersistentBuffers(Node const & head)
 {
     static Json const nothing = Json::object();

@@ -9,7 +9,7 @@
 
 namespace External::ShaderISF {
 
-/// Tells where the file lies that an import names by a path.
+/// Resolves the path of an import.
 using ResolvePath = std::function<std::string(std::string const & path)>;
 
 /// The configuration text of `head`: checked, every default filled in, in the one form of the README. The paths of

@@ -1,5 +1,5 @@
 /// @file
-/// Values of a head, in the loose types that files write them in.
+/// Conversion of a head's loosely typed values.
 #pragma once
 
 #include <algorithm>
@@ -15,7 +15,7 @@
 
 namespace External::ShaderISF {
 
-/// Reads a T from JSON: `from` gives nothing for what is no T, `kind` says for messages what would have been one.
+/// Reads a T from JSON. `from` returns nothing for another type; `kind` names the expected type in messages.
 template <class T> struct Conversion;
 
 template <> struct Conversion<std::string>

@@ -28,7 +28,7 @@ std::size_t behind(std::string_view text, std::string_view token, std::size_t of
     return found == npos ? npos : found + token.size();
 }
 
-/// Reads a JSON object out of a comment and cleans it on its way.
+/// Extracts a JSON object from a comment and cleans it.
 class JsonScanner
 {
 public:
@@ -57,7 +57,7 @@ public:
     std::string takeJson() { return std::move(m_json); }
 
 private:
-    /// Copies one character from outside of strings and tells whether it closed the object.
+    /// Copies one character outside of strings. Returns whether it closed the object.
     bool copyMark(char c)
     {
         bool const closes = c == '}' || c == ']';
@@ -75,7 +75,7 @@ private:
         return closes && --m_depth == 0;
     }
 
-    /// A string that its line does not close ends there: it can swallow neither the comment nor the shader.
+    /// An unterminated string ends with its line, so that it cannot swallow the comment or the shader.
     void copyString()
     {
         m_comma = npos;

@@ -8,20 +8,20 @@
 
 namespace External::ShaderISF {
 
-/// Where the head comment stands in the text of a shader, and the JSON text that it holds.
+/// The position of the head comment in the text of a shader, and its JSON text.
 struct HeadComment
 {
     std::size_t begin; ///< of the comment's opening characters
     std::size_t end;   ///< behind the comment's closing characters
     /// Of `json` in the shader's text. The two run in parallel, byte by byte.
     std::size_t jsonBegin;
-    /// Strict JSON where the file has comments, trailing commas or control characters in strings: blanks stand there.
+    /// Strict JSON: comments, trailing commas and control characters in strings are replaced by blanks.
     /// Its brackets are no deeper than maximumDepth, but need not match.
     std::string json;
 };
 
-/// Finds the first block comment whose text starts with a brace. Line comments and other block comments may precede
-/// it, and so may code. Within strings and behind the JSON object the comment may hold what it likes.
+/// Finds the first block comment whose text starts with a brace. Comments and code may
+/// precede it. Within strings and behind the JSON object the comment may contain anything.
 ///
 /// Expects line ends as "\n".
 /// @throws std::runtime_error if there is none, or it has no end, or is nested too deeply

@@ -21,8 +21,9 @@ namespace External::ShaderISF {
 
 namespace {
 
-/// The text in valid UTF-8, without byte order mark, with "\n" line ends. Bytes that are no text of the encoding become
-/// replacement characters: old files have them in the names of their authors. `what` names the text in messages.
+/// The text in valid UTF-8, without byte order mark, with "\nAn ISF effect for the render engine: three texts in UTF-8
+/// with " Bytes that are no text of the encoding become replacement characters: old files have them in the names of
+/// their authors. `what` names the text in messages.
 std::string decodeText(std::string_view bytes, std::string const & what)
 {
     if (bytes.size() > maximumFileSize)
@@ -36,7 +37,7 @@ std::string decodeText(std::string_view bytes, std::string const & what)
     return text.toStdString();
 }
 
-/// The library's own message without its number and, since it counts within the JSON only, without its place. It quotes
+/// The library's message without its number and without its position, which counts within the JSON only. It quotes
 /// the text up to the byte at fault, which may be in the middle of a character.
 std::string describe(nlohmann::json::exception const & error)
 {
@@ -81,8 +82,8 @@ std::string quotedText(QString const & text)
     return Serialize::quotedText(text.toStdString());
 }
 
-/// The first regular file that is `base` with one of the suffixes, or an empty text. Devices and pipes don't count:
-/// they may have no end, or wait for ever.
+/// The first regular file that is `base` with one of the suffixes, or an empty text. Devices and pipes are
+/// skipped, since reading them may block or never end.
 QString findFile(QString const & base, std::initializer_list<char const *> suffixes)
 {
     for (char const * suffix : suffixes) {
@@ -96,7 +97,7 @@ QByteArray readFile(QString const & path)
 {
     QFile file(path);
     QByteArray bytes;
-    // One byte more than may be: the parser refuses it then, whatever size the file system tells.
+    // One byte more than allowed, so that the parser refuses the file whatever size the file system reports.
     if (file.open(QIODevice::ReadOnly))
         bytes = file.read(static_cast<qint64>(maximumFileSize) + 1);
     if (file.error() != QFileDevice::NoError)

@@ -55,7 +55,7 @@ std::vector<Pair> common(json const & before, json const & after)
     return pairs;
 }
 
-/// Whether the object that stands here is elsewhere in the document, and perhaps in other places as well.
+/// Whether this object is a reference to one elsewhere in the document, possibly shared with other places.
 bool isReference(ordered_json const & tree)
 {
     return tree.contains("$meta") && tree["$meta"].contains("ref");

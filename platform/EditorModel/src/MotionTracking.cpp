@@ -95,15 +95,15 @@ public:
         m_key = Key::Other;
         if (m_place == Place::Track && name == "frames") {
             m_key = Key::Frames;
-            return !m_hasFrames || fail("frames", "stands twice");
+            return !m_hasFrames || fail("frames", "is a duplicate key");
         }
         if (m_place == Place::Frame && name == "time") {
             m_key = Key::Time;
-            return !m_time || fail(frameName() + ".time", "stands twice");
+            return !m_time || fail(frameName() + ".time", "is a duplicate key");
         }
         if (m_place == Place::Frame && name == "rect") {
             m_key = Key::Rect;
-            return !m_hasRect || fail(frameName() + ".rect", "stands twice");
+            return !m_hasRect || fail(frameName() + ".rect", "is a duplicate key");
         }
         return true;
     }

@@ -35,7 +35,7 @@ std::optional<QByteArray> read(QString const & path, qint64 maxSize, QString * e
     if (!open(file, error))
         return std::nullopt;
     QByteArray bytes;
-    // The size at the beginning is a hint only: a file may grow meanwhile, and some tell none at all.
+    // The size is only a hint: a file may grow meanwhile, and some report none at all.
     if (file.size() <= maxSize) {
         bytes.reserve(static_cast<int>(file.size()));
         while (bytes.size() <= maxSize) {

@@ -7,7 +7,7 @@
 
 namespace RegularFile {
 
-// On failure both tell in `error`, unless that is null, one line with the path and the reason.
+// On failure both set `error`, unless it is null, to one line with the path and the reason.
 
 /// Opens the file for reading if it is a regular one: opening a pipe would wait for its writer, and a device may never
 /// end.

@@ -46,7 +46,7 @@ template <class Types> QString findPath(QString const & name, Types const & type
     return {};
 }
 
-void tell(QString * error, QString const & text)
+void setError(QString * error, QString const & text)
 {
     if (error)
         *error = text;
@@ -56,7 +56,7 @@ void tell(QString * error, QString const & text)
 std::shared_ptr<QPixmap const> readPixmap(QString const & path, QString * error)
 {
     auto const fail = [&](QString const & reason) {
-        tell(error, path + QLatin1String(": ") + reason);
+        setError(error, path + QLatin1String(": ") + reason);
         return nullptr;
     };
     QFile file(path);
@@ -67,7 +67,7 @@ std::shared_ptr<QPixmap const> readPixmap(QString const & path, QString * error)
     if (reader.canRead()) {
         QSize const size = reader.size();
         if (!size.isValid())
-            return fail(QStringLiteral("does not tell its size"));
+            return fail(QStringLiteral("has no size"));
         if (std::int64_t(size.width()) * size.height() > maxImagePixels)
             return fail(QStringLiteral("has more than %1 pixels").arg(maxImagePixels));
     }
@@ -163,7 +163,7 @@ std::unique_ptr<Blob> provideBlobResource(QString const & name, QString * error)
     auto blob = std::make_unique<Blob>();
     QString const path = registeredPath(name);
     if (path.isEmpty())
-        tell(error, QLatin1String("no resource is registered as \"") + name + QLatin1Char('"'));
+        setError(error, QLatin1String("no resource is registered as \"") + name + QLatin1Char('"'));
     else
         blob->data = RegularFile::read(path, maxBlobSize, error).value_or(QByteArray());
     return blob;
@@ -174,7 +174,7 @@ std::unique_ptr<Image> provideImageResource(QString const & name, QString * erro
     constexpr Type imageFirst[] = {Type::Image, Type::Blob, Type::Video, Type::Audio, Type::None};
     QString const path = findPath(name, imageFirst);
     if (path.isEmpty()) {
-        tell(error, QLatin1String("no resource is registered as \"") + name + QLatin1Char('"'));
+        setError(error, QLatin1String("no resource is registered as \"") + name + QLatin1Char('"'));
         return nullptr;
     }
     auto image = std::make_unique<Image>();

@@ -184,7 +184,7 @@ void BinaryIArchive::load_object(void * object, boost::archive::detail::basic_is
     if (type.tracked) {
         std::uint32_t number = 0;
         if (!isNewObject(number))
-            m_bytes.fail("object " + std::to_string(number) + " is referred to where an object should stand");
+            m_bytes.fail("object " + std::to_string(number) + " is referred to where an object is expected");
         m_objects.push_back(nullptr);
     }
     serializer.load_object_data(*this, object, type.version);

@@ -23,8 +23,8 @@ using namespace MetaDetails;
 
 namespace {
 
-// A short document can refer to one object over and over, and that object to another. What a document says through
-// references may be this many values (a text counts its length besides), and no more.
+// References may multiply: a short document can refer to one object many times, and that object to another. This is the
+// limit of values read through references, the length of texts included.
 constexpr std::size_t maxCopied = std::size_t(1) << 24;
 
 /// The value of a key; null when there is none. The text is a view since the comparisons would each measure a `char *`.
@@ -34,7 +34,7 @@ json const * member(json const & value, std::string_view key)
     return found == value.end() ? nullptr : &*found;
 }
 
-/// What the meta object of a value says under a key; null when it says nothing.
+/// The value of a key of the meta object; null if there is none.
 json const * metaMember(json const & value, std::string_view key)
 {
     json const * const meta = member(value, s_meta);
@@ -180,7 +180,7 @@ private:
     }
 
     /// The offset of the bracket that opens one level too many. The text before it has been parsed, so that brackets
-    /// and quotation marks can be believed.
+    /// and quotation marks are balanced.
     std::size_t tooDeepAt() const
     {
         int depth = 0;
@@ -397,7 +397,7 @@ void iarchive::load_object(void * object, boost::archive::detail::basic_iseriali
 {
     if (!head().is_object())
         fail(std::string("an object is expected, found ") + head().type_name());
-    // The name may be left out where the class is known, but when it stands there it must be the right one.
+    // The name is optional where the class is known; if present, it must be right.
     Serialize::Detail::InputClass const & type = m_classes.of(serializer);
     json const * const name = className();
     if (name && name->get_ref<std::string const &>() != type.name)
@@ -468,7 +468,7 @@ void iarchive::enter(Level const & level)
 void iarchive::followReferences()
 {
     Level const referrer = m_stack.back();
-    // What is referred to may refer on; more often than objects can nest it is a circle.
+    // A reference may lead to another one. A chain longer than objects can nest is circular.
     for (int steps = 0; auto const id = referenceHere(); ++steps) {
         if (steps == maxObjectDepth) {
             m_stack.back() = referrer;
@@ -496,7 +496,7 @@ void iarchive::follow(std::int64_t id)
     auto const found = m_referred.find(id);
     if (found == m_referred.end())
         throw std::out_of_range("invalid map<K, T> key");
-    // An object inside itself would go on for ever.
+    // An object that contains itself would never end.
     int inside = 0;
     for (auto outer = m_stack.begin(); outer != std::prev(m_stack.end()); ++outer)
         inside += outer->followed ? 1 : 0;
@@ -504,7 +504,7 @@ void iarchive::follow(std::int64_t id)
         fail("references are nested more than " + std::to_string(maxObjectDepth) + " deep");
     m_copied += weight(*found->second);
     if (m_copied > maxCopied)
-        fail("the references of the document stand for too much");
+        fail("the references of the document multiply beyond the limit");
     m_stack.back().value = found->second;
     m_stack.back().followed = true;
 }

@@ -57,7 +57,8 @@ bool isAscii(QString const & text)
     return true;
 }
 
-/// Whether `text` is the ASCII text `bytes`; without a conversion, since most texts that are read stand there already.
+/// Whether `text` equals the ASCII text `bytes`. Compared without a conversion, since most texts are unchanged
+/// defaults.
 bool isSame(QString const & text, std::string const & bytes)
 {
     if (text.isNull() || static_cast<std::size_t>(text.size()) != bytes.size())

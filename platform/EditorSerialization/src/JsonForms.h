@@ -1,4 +1,4 @@
-// How JSON has values that it has no form for. In documents: never change.
+// Representations of values that JSON lacks. Used in documents: never change.
 #pragma once
 
 namespace Serialize::Json::Forms {

@@ -24,6 +24,26 @@ constexpr char digitPairs[] = "0001020304050607080910111213141516171819202122232
                               "40414243444546474849505152535455565758596061626364656667686970717273747576777879"
                               "8081828384858687888990919293949596979899";
 
+/// As `grisu::compute_boundaries`, whose normalisation needs no loop here: the width of the mantissa is known.
+grisu::boundaries boundariesOf(double number)
+{
+    constexpr int width = std::numeric_limits<double>::digits - 1; // of the stored mantissa
+    constexpr std::uint64_t hidden = std::uint64_t(1) << width;
+    std::uint64_t bits = 0;
+    std::memcpy(&bits, &number, sizeof bits);
+    auto const biased = static_cast<int>(bits >> width);
+    if (biased <= 1)
+        return grisu::compute_boundaries(number);
+    std::uint64_t const mantissa = (bits & (hidden - 1)) + hidden;
+    constexpr int shift = 63 - width; // from a mantissa to one of 64 bits
+    int const exponent = biased - (std::numeric_limits<double>::max_exponent - 1) - width - shift;
+    std::uint64_t const halfStep = std::uint64_t(1) << (shift - 1);
+    std::uint64_t const number64 = mantissa << shift;
+    // Below a power of two the step is half as wide.
+    std::uint64_t const below = mantissa == hidden ? halfStep / 2 : halfStep;
+    return {diyfp(number64, exponent), diyfp(number64 - below, exponent), diyfp(number64 + halfStep, exponent)};
+}
+
 /// Eight digits, with zeros in front.
 void writeEight(char * to, std::uint32_t number)
 {
@@ -77,6 +97,40 @@ void writeDigits(char * to, int & length, int & exponent, diyfp const & least, d
     grisu::grisu2_round(to, length, distance, delta, fraction, one);
 }
 
+/// Copies a fixed number of bytes, which may overlap their new place.
+template <std::size_t count> void move(char * to, char const * from)
+{
+    char bytes[count];
+    std::memcpy(bytes, from, count);
+    std::memcpy(to, bytes, count);
+}
+
+/// As `grisu::format_buffer`, with fixed numbers of bytes to move where there are few.
+char * format(char * to, int length, int exponent)
+{
+    constexpr int leastExponent = -4;
+    constexpr int mostExponent = std::numeric_limits<double>::digits10;
+    int const point = length + exponent; // behind the first digit at 1
+    if (0 < point && point < length && point <= mostExponent) {
+        static_assert(std::numeric_limits<double>::max_digits10 <= 17);
+        if (point <= 8)
+            move<16>(to + point + 1, to + point);
+        else
+            move<8>(to + point + 1, to + point);
+        to[point] = '.';
+        return to + length + 1;
+    }
+    if (leastExponent < point && point <= 0) {
+        move<8>(to + 2 - point + 16, to + 16);
+        move<16>(to + 2 - point, to);
+        static_assert(leastExponent == -4, "three zeros at most");
+        for (int index = 0; index < 2 - point; ++index)
+            to[index] = "0.000"[index];
+        return to + 2 - point + length;
+    }
+    return grisu::format_buffer(to, length, exponent, leastExponent, mostExponent);
+}
+
 } // namespace
 
 char * writeNumber(char * to, double number)
@@ -99,7 +153,7 @@ char * writeNumber(char * to, double number)
         return to + 3;
     }
     // As `nlohmann::detail::to_chars`, whose steps these are.
-    grisu::boundaries const around = grisu::compute_boundaries(number);
+    grisu::boundaries const around = boundariesOf(number);
     grisu::cached_power const power = grisu::get_cached_power_for_binary_exponent(around.plus.e);
     diyfp const scale(power.f, power.e);
     diyfp const least = product(around.minus, scale);
@@ -107,9 +161,7 @@ char * writeNumber(char * to, double number)
     int length = 0;
     int exponent = -power.k;
     writeDigits(to, length, exponent, {least.f + 1, least.e}, product(around.w, scale), {most.f - 1, most.e});
-    constexpr int leastExponent = -4;
-    constexpr int mostExponent = std::numeric_limits<double>::digits10;
-    return grisu::format_buffer(to, length, exponent, leastExponent, mostExponent);
+    return format(to, length, exponent);
 }
 
 } // namespace Serialize::Json

@@ -6,6 +6,7 @@
 
 #include <QtEndian>
 
+#include "Decimal.h"
 #include "JsonForms.h"
 #include "Utf8.h"
 
@@ -18,24 +19,48 @@ bool isDigit(char byte)
     return byte >= '0' && byte <= '9';
 }
 
-/// The number that eight digits spell; false if they are not all digits.
-bool eightDigits(char const * digits, std::uint64_t & number)
+/// The number that up to eight digits spell.
+/// @param text    has eight bytes
+/// @param number  is that of the digits, 0 without any
+/// Returns how many digits there are.
+std::size_t upToEightDigits(char const * text, std::uint64_t & number)
 {
-    if (Q_BYTE_ORDER != Q_LITTLE_ENDIAN) // the first digit is expected in the lowest byte
-        return false;
     std::uint64_t bytes = 0;
-    std::memcpy(&bytes, digits, sizeof bytes);
+    std::memcpy(&bytes, text, sizeof bytes);
     constexpr std::uint64_t upper = 0xF0F0F0F0F0F0F0F0;
-    if (((bytes & upper) | (((bytes + 0x0606060606060606) & upper) >> 4)) != 0x3333333333333333)
-        return false;
-    // Pairs, then fours, then all eight, each in one multiplication.
-    bytes -= 0x3030303030303030;
+    // Nothing in the bytes of digits. What a byte that is none carries goes into later bytes, which do not count.
+    std::uint64_t const others = ((bytes & upper) | (((bytes + 0x0606060606060606) & upper) >> 4)) ^ 0x3333333333333333;
+    int const count = others ? __builtin_ctzll(others) / 8 : 8;
+    number = 0;
+    if (count == 0)
+        return 0;
+    // With zeros in front, as the first digit is in the lowest byte. Pairs, then fours, then all eight, each in one
+    // multiplication.
+    bytes = (bytes - 0x3030303030303030) << (64 - 8 * count);
     bytes = bytes * 10 + (bytes >> 8);
     constexpr std::uint64_t mask = 0x000000FF000000FF;
     number = ((bytes & mask) * (100 + (std::uint64_t(1'000'000) << 32)) +
                  ((bytes >> 16) & mask) * (1 + (std::uint64_t(10'000) << 32))) >>
              32;
-    return true;
+    return static_cast<std::size_t>(count);
+}
+
+/// Appends the digits at the beginning of a text to a number, which wraps around where there are too many. Returns
+/// their end.
+inline char const * readDigits(char const * next, char const * end, std::uint64_t & number)
+{
+    static constexpr std::uint64_t powers[] = {1, 10, 100, 1'000, 10'000, 100'000, 1'000'000, 10'000'000, 100'000'000};
+    while (Q_BYTE_ORDER == Q_LITTLE_ENDIAN && end - next >= 8) {
+        std::uint64_t digits = 0;
+        std::size_t const count = upToEightDigits(next, digits);
+        number = number * powers[count] + digits;
+        next += count;
+        if (count < 8)
+            return next;
+    }
+    while (next != end && isDigit(*next))
+        number = number * 10 + static_cast<unsigned>(*next++ - '0');
+    return next;
 }
 
 } // namespace
@@ -45,12 +70,9 @@ bool Scanner::integer(std::int64_t & value)
     if (!token())
         return false;
     bool const isNegative = *m_next == '-';
-    if (isNegative)
-        ++m_next;
-    char const * const first = m_next;
-    std::uint64_t digits = 0; // wraps around for numbers that are too long
-    while (m_next != m_end && isDigit(*m_next))
-        digits = digits * 10 + static_cast<unsigned>(*m_next++ - '0');
+    char const * const first = m_next + (isNegative ? 1 : 0);
+    std::uint64_t digits = 0;
+    m_next = readDigits(first, m_end, digits);
     constexpr std::ptrdiff_t longest = std::numeric_limits<std::int64_t>::digits10; // any number of that many fits
     std::ptrdiff_t const count = m_next - first;
     if (count == 0 || count > longest || (*first == '0' && count > 1))
@@ -66,56 +88,49 @@ bool Scanner::number(double & value)
     if (!token())
         return false;
     char const * const begin = m_next;
-    bool const isNegative = *m_next == '-';
-    if (isNegative)
-        ++m_next;
-    std::uint64_t digits = 0; // wraps around for more than nineteen, and is then not used
-    char const * const first = m_next;
-    while (m_next != m_end && isDigit(*m_next))
-        digits = digits * 10 + static_cast<unsigned>(*m_next++ - '0');
-    std::ptrdiff_t count = m_next - first;
+    char const * const end = m_end;
+    bool const isNegative = *begin == '-';
+    char const * const first = begin + (isNegative ? 1 : 0);
+    char const * next = first;
+    std::uint64_t digits = 0;
+    while (next != end && isDigit(*next)) // usually one
+        digits = digits * 10 + static_cast<unsigned>(*next++ - '0');
+    std::ptrdiff_t count = next - first;
     if (count == 0 || (*first == '0' && count > 1))
         return false;
     bool isInteger = true;
     std::ptrdiff_t places = 0;
-    if (m_next != m_end && *m_next == '.') {
+    if (next != end && *next == '.') {
         isInteger = false;
-        char const * const fraction = ++m_next;
-        for (std::uint64_t eight = 0; m_end - m_next >= 8 && eightDigits(m_next, eight); m_next += 8)
-            digits = digits * 100'000'000 + eight;
-        while (m_next != m_end && isDigit(*m_next))
-            digits = digits * 10 + static_cast<unsigned>(*m_next++ - '0');
-        places = m_next - fraction;
+        char const * const fraction = next + 1;
+        next = readDigits(fraction, end, digits);
+        places = next - fraction;
         if (places == 0)
             return false;
         count += places;
     }
     bool hasExponent = false;
-    if (m_next != m_end && (*m_next == 'e' || *m_next == 'E')) {
+    if (next != end && (*next == 'e' || *next == 'E')) {
         hasExponent = true;
-        ++m_next;
-        if (m_next != m_end && (*m_next == '+' || *m_next == '-'))
-            ++m_next;
-        char const * const exponent = m_next;
-        while (m_next != m_end && isDigit(*m_next))
-            ++m_next;
-        if (m_next == exponent)
+        ++next;
+        if (next != end && (*next == '+' || *next == '-'))
+            ++next;
+        char const * const exponent = next;
+        while (next != end && isDigit(*next))
+            ++next;
+        if (next == exponent)
             return false;
     }
-    // Both are exact in a double, so that the quotient is rounded once.
-    static constexpr double powers[] = {1e0, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6, 1e7, 1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14,
-        1e15, 1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
-    constexpr std::uint64_t exact = std::uint64_t(1) << std::numeric_limits<double>::digits;
+    m_next = next;
     constexpr std::ptrdiff_t mostDigits = std::numeric_limits<std::uint64_t>::digits10;
-    if (!hasExponent && count <= mostDigits && digits <= exact) {
-        value = static_cast<double>(digits) / powers[places];
+    if (!hasExponent && count <= mostDigits && decimal(digits, static_cast<unsigned>(places), value)) {
         // An integer has no negative zero.
         if (isNegative && !(isInteger && digits == 0))
             value = -value;
         return true;
     }
-    auto const result = std::from_chars(begin, m_next, value);
-    return result.ec == std::errc() && result.ptr == m_next;
+    auto const result = std::from_chars(begin, next, value);
+    return result.ec == std::errc() && result.ptr == next;
 }
 
 bool Scanner::numberToken(std::string_view & token)

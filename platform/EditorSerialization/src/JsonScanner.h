@@ -30,7 +30,7 @@ public:
         if (m_next != m_end && static_cast<unsigned char>(*m_next) > ' ')
             return true;
         while (m_next != m_end && isSpace(*m_next))
-            m_next += startsWith(indentation) ? indentation.size() : 1;
+            m_next = endOfBlanks(m_next + 1, m_end); // an indentation follows a line end
         return m_next != m_end;
     }
     char peek() const { return *m_next; }
@@ -120,8 +120,6 @@ public:
     bool skip();
 
 private:
-    static constexpr std::string_view indentation = "        ";
-
     static bool isSpace(char byte) { return byte == ' ' || byte == '\n' || byte == '\r' || byte == '\t'; }
     bool decode(char const * begin, std::string_view & value, bool & isAscii);
     bool escape(unsigned & code);

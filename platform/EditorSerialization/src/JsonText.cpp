@@ -74,10 +74,13 @@ bool ObjectReader::text(QString & text)
         text = fromUtf8(bytes);
         return true;
     }
-    // Most texts are those that the constructor has put there, and stay.
-    QLatin1String const latin(bytes.data(), static_cast<int>(bytes.size()));
-    if (text.isNull() || text != latin)
-        text = latin;
+    // Most texts equal the default of the constructor, which then stays.
+    bool const hasSize = static_cast<std::size_t>(text.size()) == bytes.size() && !text.isNull();
+    if (hasSize && areSame(reinterpret_cast<char16_t const *>(text.constData()), bytes.data(), bytes.size()))
+        return true;
+    text = QString(static_cast<int>(bytes.size()), Qt::Uninitialized);
+    if (!bytes.empty()) // an empty text shares its data, of which `data` would make a copy
+        widen(reinterpret_cast<char16_t *>(text.data()), bytes.data(), bytes.size());
     return true;
 }
 
@@ -136,7 +139,8 @@ bool ObjectReader::members(Layout const & layout, ISerializable & object, bool i
 {
     KeyLayout const * const end = layout.keys + layout.keyCount;
     KeyLayout const * next = layout.keys;
-    std::uint64_t seen = 0;
+    std::uint64_t seen = 0; // a bit for each key
+    std::uint64_t bit = 1;  // of the next one
     for (;; isFirst = false) {
         KeyLayout const * key = next;
         // The keys of a text that was written here come in the table's order and without white space.
@@ -161,11 +165,12 @@ bool ObjectReader::members(Layout const & layout, ISerializable & object, bool i
                     return false;
                 continue;
             }
+            bit = std::uint64_t(1) << (key - layout.keys);
         }
-        std::uint64_t const bit = std::uint64_t(1) << (key - layout.keys);
         if ((seen & bit) != 0)
             return false;
         seen |= bit;
+        bit <<= 1;
         if (!(key->field ? value(*key->field, object) : content(*layout.base, object)))
             return false;
         next = key + 1;
@@ -327,6 +332,11 @@ private:
         std::memcpy(m_next, bytes.data(), bytes.size());
         m_next += bytes.size();
     }
+    void putShort(std::string_view bytes)
+    {
+        copyShort(m_next, bytes.data(), bytes.size());
+        m_next += bytes.size();
+    }
     template <class Number> void number(Number value) { m_next = writeNumber(m_next, value); }
     void content(Layout const & layout, Layout const & dynamic, ISerializable & object);
     void value(FieldLayout const & field, void const * address);
@@ -354,6 +364,8 @@ std::string ObjectWriter::finish()
 {
     if (m_isRefused)
         return {};
+    if (m_text.empty())
+        return {m_buffer, m_next};
     flush();
     return std::move(m_text);
 }
@@ -391,7 +403,7 @@ void ObjectWriter::pointed(ISerializable const * object)
 void ObjectWriter::content(Layout const & layout, Layout const & dynamic, ISerializable & object)
 {
     room(layout.textSize);
-    put({layout.head, layout.headLength});
+    putShort({layout.head, layout.headLength});
     std::size_t comma = layout.hasClassInformation ? 0 : 1; // left out before the first key
     for (KeyLayout const *key = layout.keys, *end = key + layout.keyCount; key != end; ++key) {
         FieldLayout const * const field = key->field;
@@ -399,7 +411,7 @@ void ObjectWriter::content(Layout const & layout, Layout const & dynamic, ISeria
         bool const isAbsent = field && field->form == Form::OptionalRecord && field->container->size(address) == 0;
         if (isAbsent && !(dynamic.newHasOptional && dynamic.newHasOptional()))
             continue;
-        put({key->literal + comma, key->length - comma});
+        putShort({key->literal + comma, key->length - comma});
         comma = 0;
         if (!field)
             content(*layout.base, dynamic, object);

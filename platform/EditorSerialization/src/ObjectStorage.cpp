@@ -39,7 +39,7 @@ ISerializable * ObjectStorage::add(std::unique_ptr<ISerializable> object, std::f
         m_state = std::make_unique<State>();
     if (released)
         m_state->released.push_back(std::move(released));
-    // Not walked: what the object owns in turn belongs to it, and is no business of this storage.
+    // Not walked, since the object itself owns what it refers to.
     m_state->tracker.own(root);
     return object.release();
 }
@@ -49,9 +49,9 @@ void ObjectStorage::releaseAll()
     if (!m_state)
         return;
     m_state->tracker.clear();
-    // Taken out first: each is told once, whatever it does.
-    for (auto const & tell : std::exchange(m_state->released, {}))
-        tell();
+    // Moved out first, so that each callback is called once, whatever it does.
+    for (auto const & callback : std::exchange(m_state->released, {}))
+        callback();
 }
 
 std::size_t ObjectStorage::size() const

@@ -32,7 +32,7 @@ void ObjectTracker::own(ISerializable const * object)
 
 void ObjectTracker::releaseAll()
 {
-    // Taken out first: a destructor may come back here.
+    // Moved out first, since a destructor may call this function.
     Entries const entries = std::exchange(m_entries, {});
     for (auto const & [address, entry] : entries)
         if (entry.release && !entry.held)
@@ -62,7 +62,7 @@ void ObjectTracker::savePointed(void const * object, Detail::OutputClass const &
 void ObjectTracker::save_object(void const * object, boost::archive::detail::basic_oserializer const & serializer)
 {
     Detail::OutputClass const & type = m_classes.of(serializer);
-    // A base stands where its object does and is no object of its own.
+    // A base has the address of its object and is not an object of its own.
     if (object == m_walked)
         return type.serializer->save_object_data(*this, object);
     {

@@ -9,7 +9,7 @@ namespace Serialize {
 
 namespace {
 
-// In streams: never change.
+// Used in streams: never change.
 constexpr std::array<char, 4> magic{'E', 'E', 'S', 'T'};
 constexpr std::uint16_t formatVersion = 1;
 constexpr std::size_t longestName = 255;
@@ -76,7 +76,7 @@ void StreamSerializer::write(ISerializable const * object)
 {
     if (!object)
         return m_bytes.write(Mark::Null);
-    // Counted here alone, as in the archives: what is written by reference nests no deeper than classes do.
+    // Only pointers are counted, as in the archives: objects by value nest no deeper than classes do.
     DepthGuard const guard(m_depth);
     record(Mark::Pointer, object->GetNameInArchive());
     content(*object);

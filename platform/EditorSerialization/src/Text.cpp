@@ -7,7 +7,7 @@ namespace Serialize {
 
 namespace {
 
-// Memory is taken as the bytes arrive, so that a forged count costs no more than the stream really holds.
+// Allocated as the bytes arrive, so that a forged count costs no more memory than the stream has bytes.
 constexpr std::size_t chunkSize = 64 * 1024;
 
 constexpr std::int32_t nullText = -1;

@@ -56,7 +56,7 @@ Root & user()
     return root;
 }
 
-/// The folder that this library was loaded from, links resolved; empty when the loader does not tell.
+/// The folder that this library was loaded from, links resolved; empty if the loader does not know it.
 QString libraryFolder()
 {
     // An address that only this library can have: an exported function's could be another copy's.

@@ -24,7 +24,7 @@ public:
     bool userFlagB() const override { return m_userFlagB; }
     std::string const & file() const override { return m_file; }
 
-    /// The storage has given the payload up.
+    /// The storage has released the payload.
     void ownPayload() { m_owned.reset(&m_payload); }
 
 private:

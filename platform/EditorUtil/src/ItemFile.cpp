@@ -52,8 +52,8 @@ private:
     int m_descriptor;
 };
 
-// Not through Qt: it asks for the kind of a file by its path before it opens it, which a pipe put there in between
-// would make it wait for, and it cannot open every name in every locale.
+// Not through QFile, which checks the type of a file by its path before it opens it, so that it could block on a pipe
+// put there in between, and cannot open every name in every locale.
 std::string readFile(std::string const & path)
 {
     // Without O_NONBLOCK, opening a pipe waits for its writer.
@@ -65,7 +65,7 @@ std::string readFile(std::string const & path)
         throw std::runtime_error("is not a regular file");
     if (status.st_size > maxItemFileSize)
         throw std::runtime_error("is larger than " + std::to_string(maxItemFileSize >> 20) + " MiB");
-    // The file may shrink while it is read; what it grows by is left out, and missed by the parser.
+    // If the file shrinks meanwhile, less is read; if it grows, the rest is ignored and the parser reports it.
     std::string text(static_cast<std::size_t>(status.st_size), '\0');
     std::size_t length = 0;
     while (length < text.size()) {
@@ -142,7 +142,7 @@ struct ItemContent
     std::set<QString> categories;
 };
 
-/// Without a tree. Nothing for a text that has to be read with one, or that is wrong.
+/// Reads without a tree. Empty if the text is invalid or needs one.
 std::optional<ItemContent> readContent(std::string_view text, std::string const & folder)
 {
     Serialize::Json::TextReader reader(text);

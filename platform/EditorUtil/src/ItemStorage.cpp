@@ -25,12 +25,12 @@ namespace EditorCollection {
 
 namespace {
 
-/// Files are given to the threads so many at a time, at most: enough that handing out costs nothing beside the reading.
+/// Largest batch of files for a thread: large enough that its overhead is negligible beside reading.
 constexpr std::size_t maxBatchSize = 16;
-/// Batches that are read ahead of a slow callback, at most.
+/// Limit of batches that are read ahead of a slow callback.
 constexpr std::size_t maxBatches = 64;
 
-/// The suffix alone is no name: that is a hidden file.
+/// A file named like the suffix alone is a hidden file.
 bool isItemFile(std::string_view name)
 {
     return name.size() > itemFileSuffix.size() && name.substr(name.size() - itemFileSuffix.size()) == itemFileSuffix;
@@ -59,13 +59,13 @@ struct Load
     bool listed = false;
     std::atomic<bool> dropped{false}; ///< by the storage
 
-    /// Whether what is left of it is still to be delivered.
+    /// Whether the rest of it is still to be delivered.
     bool isWanted() const { return !dropped && EditorCollection::isWanted(callback); }
 
     std::size_t outcomes() const { return error.empty() ? names.size() : 1; }
 };
 
-/// Some consecutive outcomes of a load. Batches are delivered in the order in which they were handed out.
+/// Consecutive outcomes of a load. Batches are delivered in the order of their creation.
 struct Batch
 {
     std::shared_ptr<Load> load;
@@ -116,8 +116,8 @@ Outcome readOne(Load const & load, std::size_t index)
 
 } // namespace
 
-/// The threads and what they share. Each takes, whenever it is free, the most urgent of what there is to do: deliver
-/// what is ready, read the next files, list the next folder.
+/// The threads and their shared state. A free thread takes the most urgent task: deliver a finished batch, read the
+/// next files, list the next folder.
 class ItemStorage::Loader
 {
 public:
@@ -147,7 +147,7 @@ public:
 
     void dropAll()
     {
-        // These outlive the lock: a callback may do anything when it goes.
+        // Destroyed after the lock is released, since a callback's destructor may do anything.
         Loads dropped;
         Loads done;
         Lock lock(m_mutex);
@@ -269,7 +269,7 @@ private:
         load->listed = true;
         if (load->isWanted())
             m_foundCount += load->outcomes();
-        m_done.push_back(std::move(load)); // unless dropped, it stands in m_loads as well
+        m_done.push_back(std::move(load)); // unless dropped, it is in m_loads as well
         takeHandedOut();
         wake();
     }
@@ -300,7 +300,8 @@ private:
         lock.lock();
         batch.outcomes = std::move(outcomes);
         batch.ready = true;
-        // Nobody needs to be told: this thread goes on to deliver the batch, or whoever delivers another one does.
+        // No notification is needed: this thread goes on to deliver the batch, or the thread that delivers another one
+        // does.
     }
 
     /// Takes the first loads off the list as far as everything of them is in a batch.
@@ -312,7 +313,7 @@ private:
         }
     }
 
-    /// Lets go of the loads that are done, without the lock: a callback may do anything when it goes.
+    /// Destroys the finished loads without the lock, since a callback's destructor may do anything.
     void release(Lock & lock)
     {
         Loads done = std::exchange(m_done, {});
@@ -323,7 +324,7 @@ private:
 
     bool isIdle() const { return m_unlisted.empty() && m_loads.empty() && m_batches.empty() && !m_delivered; }
 
-    /// Has the threads look for work, or tells those who wait that there is none left.
+    /// Wakes the threads for new work, or those waiting for the end.
     void wake() { (isIdle() ? m_ended : m_work).notify_all(); }
 
     bool isInCallback() const { return m_deliverer == std::this_thread::get_id(); }
@@ -333,7 +334,7 @@ private:
     std::condition_variable m_ended;   ///< everything is done, or what was dropped is no longer delivered
     Loads m_unlisted;                  ///< in the order made
     Loads m_loads;                     ///< made before those: being listed, or listed and not handed out to the end
-    Loads m_done;                      ///< to be let go without the lock
+    Loads m_done;                      ///< to be destroyed without the lock
     std::deque<Batch> m_batches;       ///< in the order of delivery
     std::shared_ptr<Load> m_delivered; ///< whose batch is being delivered; null when none is
     std::thread::id m_deliverer;

@@ -113,7 +113,7 @@ void ReadRows(Scanner & scanner, std::vector<Row> & rows)
     }
 }
 
-/// Takes what Lustre and Flame put behind the entries. It tells of a display table that is not in the file.
+/// Skips the lines that Lustre and Flame write after the entries. They refer to a display table outside of the file.
 void ReadFooter(Scanner & scanner)
 {
     for (; scanner.NextWord(); scanner.EndLine()) {
@@ -190,7 +190,7 @@ public:
         }
         rows.reserve(scanner.Capacity(Cube(header.size.value_or(static_cast<int>(mesh.size()))), shortestRow));
         ReadRows(scanner, rows);
-        // Only the number of lines tells a mesh of three points from an entry.
+        // Only the number of lines distinguishes a mesh of three points from an entry.
         if (mayBeEntry && rows.size() == 1 + Cube(3)) {
             mesh.assign(rows.front().begin(), rows.front().end());
             rows.erase(rows.begin());

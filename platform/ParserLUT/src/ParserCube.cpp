@@ -43,9 +43,9 @@ struct Header
     Range range3D;
     Color domainMin{0, 0, 0};
     Color domainMax{1, 1, 1};
-    std::size_t range1DLine = 0; ///< where it stands, 0 if it does not
+    std::size_t range1DLine = 0; ///< line of the keyword, 0 if absent
     std::size_t range3DLine = 0;
-    std::size_t domainLine = 0; ///< where the later of the two stands
+    std::size_t domainLine = 0; ///< line of the later of the two
     bool videoRangeInput = false;
     bool videoRangeOutput = false;
 };

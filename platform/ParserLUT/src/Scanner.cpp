@@ -42,7 +42,7 @@ std::string Quoted(std::string_view word)
     return quoted + (word.size() > longest ? "...\"" : "\"");
 }
 
-/// std::from_chars, but that a plus sign may stand ahead: writers of tables use it.
+/// std::from_chars, but accepts a leading plus sign, which some writers of tables use.
 template <typename Value> std::from_chars_result FromChars(char const * first, char const * last, Value & value)
 {
     bool const plus = last - first > 1 && *first == '+' && first[1] != '-';

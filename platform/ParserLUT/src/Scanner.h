@@ -86,7 +86,7 @@ private:
 /// Whether two words are the same but for the case of ASCII letters.
 bool SameWord(std::string_view a, std::string_view b);
 
-/// A number for a message, in as few digits as tell it from its neighbours.
+/// A number for a message, in the shortest form that is exact.
 std::string Shown(float number);
 
 } // namespace Quoril::Proc::LUT

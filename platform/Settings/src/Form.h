@@ -1,5 +1,6 @@
 /// @file
-/// The value form of each type that a setting or a public data member can have: how it is told, read and compared.
+/// The value form of each type that a setting or a public data member can have: how it is converted to a value, read
+/// and compared.
 #pragma once
 
 #include <algorithm>
@@ -21,14 +22,14 @@
 namespace Quoril::Proc {
 
 /// For a type T:
-/// - `Value tell(T const &)`;
+/// - `Value toValue(T const &)`;
 /// - `bool read(Value const &, T &)`, false when the value is no T, which may then hold anything;
 /// - `bool same(T const &, T const &)`;
 /// - `std::string expected()`, what `read` takes, for messages.
 template <class T, class = void> struct Form;
 
-/// A small record: specialise with `template <class R> static auto of(R & record)`, which ties its members. It is told
-/// as the list of them.
+/// A small record: specialise with `template <class R> static auto of(R & record)`, which ties its members. It is
+/// converted as the list of them.
 template <class T> struct Parts;
 
 /// For handles, which compare by identity, and which only code can give.
@@ -40,7 +41,7 @@ template <class T> struct HandleForm
 
 template <> struct Form<bool>
 {
-    static Value tell(bool on) { return on; }
+    static Value toValue(bool on) { return on; }
     static bool read(Value const & value, bool & on)
     {
         auto const * given = value.as<bool>();
@@ -58,7 +59,7 @@ template <class T> struct Form<T, std::enable_if_t<std::is_integral_v<T>>>
                                                 ? std::numeric_limits<std::int64_t>::max()
                                                 : static_cast<std::int64_t>(std::numeric_limits<T>::max());
 
-    static Value tell(T number) { return number; }
+    static Value toValue(T number) { return number; }
     static bool read(Value const & value, T & number)
     {
         auto const * given = value.as<std::int64_t>();
@@ -73,7 +74,7 @@ template <class T> struct Form<T, std::enable_if_t<std::is_integral_v<T>>>
 
 template <class T> struct Form<T, std::enable_if_t<std::is_floating_point_v<T>>>
 {
-    static Value tell(T number) { return static_cast<double>(number); }
+    static Value toValue(T number) { return static_cast<double>(number); }
     static bool read(Value const & value, T & number)
     {
         if (auto const * given = value.as<std::int64_t>()) {
@@ -92,7 +93,7 @@ template <class T> struct Form<T, std::enable_if_t<std::is_enum_v<T>>>
 {
     using Number = std::underlying_type_t<T>;
 
-    static Value tell(T enumerator) { return static_cast<Number>(enumerator); }
+    static Value toValue(T enumerator) { return static_cast<Number>(enumerator); }
     static bool read(Value const & value, T & enumerator)
     {
         Number number{};
@@ -104,7 +105,7 @@ template <class T> struct Form<T, std::enable_if_t<std::is_enum_v<T>>>
 
 template <> struct Form<std::string>
 {
-    static Value tell(std::string const & text) { return text; }
+    static Value toValue(std::string const & text) { return text; }
     static bool read(Value const & value, std::string & text)
     {
         auto const * given = value.as<std::string>();
@@ -116,7 +117,7 @@ template <> struct Form<std::string>
 
 template <class T> struct Form<std::optional<T>>
 {
-    static Value tell(std::optional<T> const & optional) { return optional ? Form<T>::tell(*optional) : Value(); }
+    static Value toValue(std::optional<T> const & optional) { return optional ? Form<T>::toValue(*optional) : Value(); }
     static bool read(Value const & value, std::optional<T> & optional)
     {
         if (value.as<std::nullptr_t>() != nullptr) {
@@ -134,12 +135,12 @@ template <class T> struct Form<std::optional<T>>
 
 template <class T> struct Form<std::vector<T>>
 {
-    static Value tell(std::vector<T> const & elements)
+    static Value toValue(std::vector<T> const & elements)
     {
         Value::List list;
         list.reserve(elements.size());
         for (T const & element : elements) {
-            list.push_back(Form<T>::tell(element));
+            list.push_back(Form<T>::toValue(element));
         }
         return list;
     }
@@ -170,10 +171,10 @@ template <class... T> struct Form<std::tuple<T...>>
     using Tuple = std::tuple<T...>;
     template <class Member> using FormOf = Form<std::decay_t<Member>>;
 
-    static Value tell(Tuple const & tuple)
+    static Value toValue(Tuple const & tuple)
     {
         return std::apply(
-            [](auto const &... member) { return Value::List{FormOf<decltype(member)>::tell(member)...}; }, tuple);
+            [](auto const &... member) { return Value::List{FormOf<decltype(member)>::toValue(member)...}; }, tuple);
     }
     static bool read(Value const & value, Tuple & tuple)
     {
@@ -204,7 +205,7 @@ private:
 
 template <class T> struct Form<T, std::void_t<decltype(Parts<T>::of(std::declval<T &>()))>>
 {
-    static Value tell(T const & record) { return form(Parts<T>::of(record)); }
+    static Value toValue(T const & record) { return form(Parts<T>::of(record)); }
     static bool read(Value const & value, T & record)
     {
         auto members = Parts<T>::of(record);
@@ -218,7 +219,7 @@ template <class T> struct Form<T, std::void_t<decltype(Parts<T>::of(std::declval
     static std::string expected() { return Form<decltype(Parts<T>::of(std::declval<T &>()))>::expected(); }
 
 private:
-    template <class Tuple> static Value form(Tuple const & members) { return Form<Tuple>::tell(members); }
+    template <class Tuple> static Value form(Tuple const & members) { return Form<Tuple>::toValue(members); }
 };
 
 template <class T, std::size_t size> struct Parts<std::array<T, size>>
@@ -233,7 +234,7 @@ template <> struct Form<Core::Matrix3x3>
 {
     using Entries = Form<std::array<double, 9>>;
 
-    static Value tell(Core::Matrix3x3 const & matrix) { return Entries::tell(matrix.entries()); }
+    static Value toValue(Core::Matrix3x3 const & matrix) { return Entries::toValue(matrix.entries()); }
     static bool read(Value const & value, Core::Matrix3x3 & matrix)
     {
         std::array<double, 9> entries{};
@@ -252,13 +253,13 @@ template <> struct Form<Core::Matrix3x3>
     static std::string expected() { return Entries::expected(); }
 };
 
-/// The settings object as Trace::describe tells it, with the calls that any open trace of this thread saw.
+/// The settings object as Trace::describe returns it, with the calls recorded by any open trace of this thread.
 Value describeTraced(Settings const & settings);
 
 /// A settings object as an argument of another's setter.
 template <class T> struct Form<T, std::enable_if_t<std::is_base_of_v<Settings, T>>>
 {
-    static Value tell(T const & settings) { return describeTraced(settings); }
+    static Value toValue(T const & settings) { return describeTraced(settings); }
     static bool read(Value const & value, T & settings)
     {
         auto const * record = value.as<Value::Object>();

@@ -14,7 +14,7 @@ namespace Quoril::Proc {
 /// Told as its size.
 template <> struct Form<std::shared_ptr<ImageHandler const>> : HandleForm<std::shared_ptr<ImageHandler const>>
 {
-    static Value tell(std::shared_ptr<ImageHandler const> const & image)
+    static Value toValue(std::shared_ptr<ImageHandler const> const & image)
     {
         return image ? Value::Object{{"width", image->width}, {"height", image->height}} : Value();
     }

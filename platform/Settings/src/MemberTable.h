@@ -23,7 +23,7 @@ template <class... Parameters> struct Form<Setting<Parameters...>>
     using Given = Setting<Parameters...>;
     using Arguments = typename Given::Arguments;
 
-    static Value tell(Given const & setting) { return Form<Arguments>::tell(setting.arguments); }
+    static Value toValue(Given const & setting) { return Form<Arguments>::toValue(setting.arguments); }
     static bool read(Value const & value, Given & setting)
     {
         setting.isGiven = true;
@@ -55,7 +55,7 @@ struct Member
 
     bool (*isGiven)(Settings const &); ///< a data member: whether it differs from how it starts
     bool (*isSame)(Settings const &, Settings const &);
-    Value (*tell)(Settings const &); ///< a setting: the list of its arguments
+    Value (*toValue)(Settings const &); ///< a setting: the list of its arguments
     bool (*read)(Value const &, Settings &);
     std::string (*expected)();
 };
@@ -86,7 +86,7 @@ private:
     {
         using A = Access<pointer>;
         constexpr std::size_t prefix = A::isField ? 0 : std::char_traits<char>::length("m_");
-        return {name + prefix, A::isField, &A::isGiven, &A::isSame, &A::tell, &A::read, &A::expected};
+        return {name + prefix, A::isField, &A::isGiven, &A::isSame, &A::toValue, &A::read, &A::expected};
     }
 
     Member const * m_first = nullptr;
@@ -101,7 +101,7 @@ template <class Class, class T, T Class::*pointer> struct MemberTable::Access<po
 
     static bool isGiven(Settings const & settings) { return !Form<T>::same(in(settings), T{}); }
     static bool isSame(Settings const & a, Settings const & b) { return Form<T>::same(in(a), in(b)); }
-    static Value tell(Settings const & settings) { return Form<T>::tell(in(settings)); }
+    static Value toValue(Settings const & settings) { return Form<T>::toValue(in(settings)); }
     static bool read(Value const & value, Settings & settings)
     {
         return Form<T>::read(value, static_cast<Class &>(settings).*pointer);

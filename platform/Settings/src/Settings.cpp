@@ -73,7 +73,7 @@ Record Settings::GetFields() const
     Record fields;
     for (Member const & member : members()) {
         if (member.isField) {
-            fields.emplace_back(member.name, member.tell(*this));
+            fields.emplace_back(member.name, member.toValue(*this));
         }
     }
     return fields;

@@ -9,7 +9,7 @@ using FrameFunctors = std::vector<SettingsEffectMask::FrameFunctor>;
 /// Told as what each function answers at some positions: near the end, not at it, where the effect is over.
 template <> struct Form<Shared<FrameFunctors>> : HandleForm<Shared<FrameFunctors>>
 {
-    static Value tell(Shared<FrameFunctors> const & functors)
+    static Value toValue(Shared<FrameFunctors> const & functors)
     {
         Value::List list;
         for (auto const & functor : FrameFunctors(functors)) {
@@ -27,7 +27,7 @@ template <> struct Form<Shared<FrameFunctors>> : HandleForm<Shared<FrameFunctors
 private:
     static Value tellFrame(SettingsEffectMask::FrameMask const & frame)
     {
-        return Value::Object{{"shape", frame.shape}, {"matrix", Form<Core::Matrix3x3>::tell(frame.matrix)},
+        return Value::Object{{"shape", frame.shape}, {"matrix", Form<Core::Matrix3x3>::toValue(frame.matrix)},
             {"method", frame.method}, {"opacity", frame.opacity}, {"outline", frame.outline},
             {"smoothness", frame.smoothness}};
     }

@@ -10,9 +10,9 @@ namespace Quoril::Proc {
 /// Told as its size.
 template <> struct Form<std::shared_ptr<LUT::LUTTable>> : HandleForm<std::shared_ptr<LUT::LUTTable>>
 {
-    static Value tell(std::shared_ptr<LUT::LUTTable> const & table)
+    static Value toValue(std::shared_ptr<LUT::LUTTable> const & table)
     {
-        return table ? Value::Object{{"size", Form<std::array<int, 3>>::tell(table->size)}} : Value();
+        return table ? Value::Object{{"size", Form<std::array<int, 3>>::toValue(table->size)}} : Value();
     }
     static std::string expected() { return "a table, which only code can give"; }
 };

@@ -115,7 +115,7 @@ Value Trace::describe(Settings const & settings) const
 void Settings::recordCall(char const * setting) const
 {
     if (auto * const recorder = TraceRecorder::current()) {
-        Value const arguments = members().find(setting)->tell(*this);
+        Value const arguments = members().find(setting)->toValue(*this);
         recorder->record(*this, {std::string("Set") + setting, *arguments.as<Value::List>()});
     }
 }

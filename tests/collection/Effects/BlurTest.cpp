@@ -77,7 +77,7 @@ TEST_F(BlurConversion, TiltShiftPassesItsLines)
 class BokehBlurConversion : public BlurConversion
 {
 protected:
-    // One image a mask, told apart by their widths, from 1 on.
+    // One image per mask, distinguished by width, from 1 on.
     void SetUp() override
     {
         char const * const masks[] = {"bang.png", "blossom.png", "bokeh.png", "butterfly.png", "clover.png",

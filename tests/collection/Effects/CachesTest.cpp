@@ -8,8 +8,8 @@
 #include <collection/Effects/SettingsFactory.h>
 #include <EditorModel/EffectFactory.h>
 #include <effects/Blur.h>
-#include <effects/Effects.h>
 #include <effects/Light.h>
+#include <effects/Shaders.h>
 #include <ParserLUT/LUTTable.h>
 #include <Settings/SettingsBlur.h>
 #include <Settings/SettingsLight.h>

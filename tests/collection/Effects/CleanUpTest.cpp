@@ -1,4 +1,8 @@
-#include <effects/Effects.h>
+#include <EditorModel/EffectFactory.h>
+#include <effects/CleanUp.h>
+#include <effects/Holder.h>
+#include <effects/Identity.h>
+#include <effects/Modulation.h>
 #include <Settings/SettingsAudio.h>
 #include <support/Conversion.h>
 

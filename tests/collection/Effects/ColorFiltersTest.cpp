@@ -113,7 +113,7 @@ TEST_F(ColorFiltersConversion, Invert)
     expectConversion(effect, settings("SettingsEffectInvert", R"(["SetIntensity", 0.10000000149011612])"));
 }
 
-// What a host's own class converts to stands in the tests of that host.
+// The conversion of a host's own class is tested in the tests of that host.
 TEST_F(ColorFiltersConversion, ColorMixFieldIsABadCastWithoutItsClass)
 {
     VideoEffect const effect(Id::ColorMixField, Id::ColorMixField);

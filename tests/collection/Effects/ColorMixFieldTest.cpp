@@ -4,10 +4,11 @@
 #include <string>
 #include <typeinfo>
 
+#include <collection/Effects/ContentProvider.h>
 #include <EditorModel/CollectionProvider.h>
 #include <EditorModel/EffectArchive.h>
 #include <EditorModel/EffectFactory.h>
-#include <effects/Effects.h>
+#include <effects/Base.h>
 #include <serialization/Register.h>
 #include <Settings/Settings.h>
 #include <Settings/Trace.h>

@@ -17,7 +17,12 @@
 #include <EditorUtil/CollectionHolder.h>
 #include <EditorUtil/ItemFile.h>
 #include <EditorUtil/ItemStorage.h>
-#include <effects/Effects.h>
+#include <effects/ColorCorrection.h>
+#include <effects/Geometry.h>
+#include <effects/Holder.h>
+#include <effects/Identity.h>
+#include <effects/Mask.h>
+#include <effects/Shaders.h>
 #include <support/Items.h>
 
 #include <QDir>

@@ -8,7 +8,12 @@
 #include <collection/Effects/ContentProvider.h>
 #include <collection/Effects/SettingsFactory.h>
 #include <EditorModel/EffectFactory.h>
-#include <effects/Effects.h>
+#include <effects/Base.h>
+#include <effects/CleanUp.h>
+#include <effects/ColorCorrection.h>
+#include <effects/Geometry.h>
+#include <effects/Identity.h>
+#include <effects/Mask.h>
 #include <support/Items.h>
 
 #include <gmock/gmock.h>

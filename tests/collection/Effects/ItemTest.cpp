@@ -5,7 +5,9 @@
 
 #include <EditorModel/EffectArchive.h>
 #include <EditorUtil/ItemFile.h>
-#include <effects/Effects.h>
+#include <effects/Composition.h>
+#include <effects/Holder.h>
+#include <effects/Shaders.h>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -84,7 +84,7 @@ std::string imageOfWidth(int width)
 class FlyingObjectsConversion : public LightConversion
 {
 protected:
-    // One image a preset, told apart by their widths, from 1 on.
+    // One image per preset, distinguished by width, from 1 on.
     void SetUp() override
     {
         int width = 0;

@@ -3,11 +3,13 @@
 #include <string>
 #include <vector>
 
+#include <EditorModel/EffectFactory.h>
 #include <EditorModel/MotionTracking.h>
 #include <EditorSettings/Settings.h>
 #include <effects/Blur.h>
-#include <effects/Effects.h>
 #include <effects/Light.h>
+#include <effects/Mask.h>
+#include <effects/Shaders.h>
 #include <support/Conversion.h>
 #include <support/Images.h>
 #include <support/Resources.h>

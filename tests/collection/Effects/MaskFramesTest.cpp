@@ -24,7 +24,7 @@ using Settings = Quoril::Proc::SettingsEffectMask;
 
 constexpr std::int64_t duration = 1'000'000;
 
-/// The functions of a frame that stands still and of one that moves by half the picture. The effect, the factory, the
+/// The functions of a frame that does not move and of one that moves by half the picture. The effect, the factory, the
 /// record and the track's file are gone when they are returned.
 std::vector<Settings::FrameFunctor> functors()
 {

@@ -9,7 +9,10 @@
 #include <vector>
 
 #include <EditorModel/EffectFactory.h>
-#include <effects/Effects.h>
+#include <effects/Composition.h>
+#include <effects/Equalizer.h>
+#include <effects/Geometry.h>
+#include <effects/Mask.h>
 #include <effects/Voice.h>
 #include <Settings/SettingsAudio.h>
 #include <Settings/SettingsComposition.h>

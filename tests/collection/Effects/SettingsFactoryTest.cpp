@@ -2,7 +2,11 @@
 #include <stdexcept>
 #include <typeinfo>
 
-#include <effects/Effects.h>
+#include <EditorModel/EffectFactory.h>
+#include <effects/Base.h>
+#include <effects/ColorCorrection.h>
+#include <effects/Geometry.h>
+#include <effects/Identity.h>
 #include <effects/PrivateIdentity.h>
 #include <support/Conversion.h>
 

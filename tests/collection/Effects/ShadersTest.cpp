@@ -140,7 +140,7 @@ TEST_F(LutConversion, ReadsTheFileOnce)
     EXPECT_EQ(converted->GetTable(), first->GetTable());
     resources.remove("warm.cube");
     EXPECT_EQ(only<SettingsEffectLUT>(effect)->GetTable(), first->GetTable());
-    // Names are told apart to the letter.
+    // Names are compared exactly.
     resources.add("Warm", "upper.cube");
     resources.write("upper.cube", table3);
     EXPECT_THAT(convert(Lut("Warm")).settings, ElementsAre(lutSettings(3)));
@@ -316,7 +316,7 @@ class ExternalShaderConversion : public ShadersConversion
 protected:
     void SetUp() override { resources.add("shader", "shader.frag"); }
 
-    // What the engine is told to run.
+    // The shader that the engine runs.
     static std::string shaderOf(char const * resource)
     {
         ExternalShader effect;

@@ -23,7 +23,7 @@ ISFSettings parseHead(std::string const & head)
     return parse("/*" + head + "*/\n" + body);
 }
 
-/// A part of the configuration text, as it is written there: keys in order, 1 and 1.0 told apart.
+/// A part of the configuration text, exactly: keys in order, 1 distinct from 1.0.
 std::string configPart(std::string const & head, std::string const & key)
 {
     return nlohmann::ordered_json::parse(parseHead(head).config).at(key).dump();
@@ -223,7 +223,7 @@ TEST(ParseShaderISF, WritesInputTypesInTheirOwnCase)
         R"([{"NAME":"n","TYPE":"audioFFT","LABEL":"3"}])");
 }
 
-/// What stands in a head, and the passes that come of it.
+/// Heads and the passes that result.
 class Pass : public Table
 {};
 

@@ -219,7 +219,7 @@ TEST_F(ResourceRegistry, BlobErrorsSayWhichFileAndWhy)
     EXPECT_EQ(blobError("folder"), m_folder.path().toStdString() + ": is not a regular file");
     add("device", Type::Blob, "/dev/zero");
     EXPECT_EQ(blobError("device"), "/dev/zero: is not a regular file");
-    // Opening one would wait for whoever writes to it.
+    // Opening one would wait for a writer.
     ASSERT_EQ(mkfifo(QFile::encodeName(path("pipe")).constData(), 0600), 0);
     add("pipe", Type::Blob, path("pipe"));
     EXPECT_EQ(blobError("pipe"), path("pipe").toStdString() + ": is not a regular file");

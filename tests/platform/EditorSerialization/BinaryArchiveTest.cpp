@@ -167,7 +167,7 @@ TEST(BinaryArchive, LibraryVersionThreeHasNoItemVersion)
     branch.leaves.resize(1);
     branch.leaves[0].number = 7;
     std::string content = written(branch).substr(header.size());
-    // Behind tracked, class version, object number and count stands the item version.
+    // The item version follows tracked, class version, object number and count.
     content.erase(1 + 4 + 4 + 8, 4);
     std::stringstream stream("EEAR" + bytes(std::uint16_t(3)) + content);
     BinaryIArchive archive(stream);

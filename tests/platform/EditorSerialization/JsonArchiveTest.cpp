@@ -515,14 +515,14 @@ TEST(JsonArchive, AnArchiveCanBeReadFromAfterAnError)
 
 TEST(JsonArchive, ReferencesDoNotMultiplyWithoutEnd)
 {
-    // Each object holds the next one twice: thirty of them stand for 2^30 leaves.
+    // Each object holds the next one twice: thirty of them expand to 2^30 leaves.
     json const leaf = numbered(30, {{"$meta", leafMeta}});
     json children = json::array({leaf});
     for (int id = 29; id >= 1; --id)
         children.push_back(
             numbered(id, {{"$meta", {{"class", "Host::Node"}}}, {"children", {reference(id + 1), reference(id + 1)}}}));
     json const document{{"$meta", {{"class", "Host::Node"}}}, {"children", children}};
-    EXPECT_THAT(errorOf<Node>(document), HasSubstr("stand for too much"));
+    EXPECT_THAT(errorOf<Node>(document), HasSubstr("multiply beyond the limit"));
 }
 
 TEST(JsonArchive, TwoObjectsWithOneNumberAreRefused)

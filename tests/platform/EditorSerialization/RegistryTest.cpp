@@ -3,7 +3,11 @@
 #include <EditorSerialization/Layout.h>
 
 #include <algorithm>
+#include <deque>
 #include <optional>
+#include <string>
+#include <utility>
+#include <vector>
 
 #include <support/LogCapture.h>
 
@@ -37,6 +41,28 @@ TEST(Registry, MakesClassesByNameWhileTheyAreRegistered)
     }
     EXPECT_EQ(Serialize::Registry::create("Test::Leaf"), nullptr);
     EXPECT_THAT(Serialize::Registry::names(), Not(Contains("Test::Leaf")));
+}
+
+TEST(Registry, FindsNamesOfEveryLengthByWhatTheyDifferIn)
+{
+    std::deque<std::string> names; // outlive their registrators
+    std::deque<Serialize::Registrator> registrators;
+    std::vector<std::pair<std::string, Serialize::BaseCreator const *>> registered;
+    for (std::size_t size = 1; size <= 40; ++size)
+        for (std::size_t place : {std::size_t(0), size / 2, size - 1}) {
+            std::string name(size, '.');
+            name[place] = 'x';
+            if (std::find(names.begin(), names.end(), name) != names.end())
+                continue;
+            names.push_back(name);
+            auto const * const creator = new LeafCreator;
+            registrators.emplace_back(names.back().c_str(), creator);
+            registered.emplace_back(name, creator);
+        }
+    for (auto const & [name, creator] : registered)
+        EXPECT_EQ(Serialize::Registry::find(name).creator, creator) << name;
+    EXPECT_EQ(Serialize::Registry::find({}).creator, nullptr);
+    EXPECT_EQ(Serialize::Registry::find(std::string(41, '.')).creator, nullptr);
 }
 
 TEST(Registry, NamesAreSorted)

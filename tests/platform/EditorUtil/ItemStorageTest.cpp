@@ -316,7 +316,7 @@ protected:
 
     static ItemFolder const & folder() { return *s_folder; }
 
-    /// Counts, and waits at a given delivery until it is told to go on.
+    /// Counts, and waits at a given delivery until it is released.
     class Gate
     {
     public:

@@ -38,13 +38,13 @@ void checkTrace(Settings const & fresh, Row const & row)
         EXPECT_TRUE(calls.empty());
         return;
     }
-    auto const told = row.told();
+    auto const recorded = row.recorded();
     ASSERT_EQ(calls.size(), 1u);
     EXPECT_EQ(calls[0].setter, std::string("Set") + row.name);
-    ASSERT_EQ(calls[0].arguments.size(), told.size());
-    for (std::size_t index = 0; index < told.size(); ++index) {
-        if (told[index] != Value()) {
-            EXPECT_EQ(calls[0].arguments[index], told[index]);
+    ASSERT_EQ(calls[0].arguments.size(), recorded.size());
+    for (std::size_t index = 0; index < recorded.size(); ++index) {
+        if (recorded[index] != Value()) {
+            EXPECT_EQ(calls[0].arguments[index], recorded[index]);
         }
     }
 }

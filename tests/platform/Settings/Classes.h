@@ -123,7 +123,7 @@ struct Row
     void (*give)(Settings &);              ///< something other than what it starts with
     void (*expectStart)(Settings const &); ///< fails unless it holds what it starts with
     void (*expectGiven)(Settings const &); ///< fails unless it holds what was given
-    std::vector<Value> (*told)();          ///< a setter's arguments; null for what is tested elsewhere
+    std::vector<Value> (*recorded)();      ///< a setter's arguments; null for what is tested elsewhere
 };
 
 /// Only code can give one: it has no form in a record.
@@ -146,7 +146,7 @@ template <class T> void expectSame(T const & a, T const & b)
     }
 }
 
-/// The value that a number, an enumerator or a text is told as; null for all else.
+/// The value that a number, an enumerator or a text is recorded as; null for all else.
 template <class T> Value plain(T const & argument)
 {
     if constexpr (std::is_enum_v<T>) {
@@ -201,14 +201,14 @@ template <class Class, class... Parameters, auto set, auto get> struct Setter<Cl
     }
     static void expectStart(Settings const & settings) { expect(settings, Arguments{}); }
     static void expectGiven(Settings const & settings) { expect(settings, sample()); }
-    static std::vector<Value> told()
+    static std::vector<Value> recorded()
     {
         return std::apply([](auto const &... argument) { return std::vector<Value>{plain(argument)...}; }, sample());
     }
 
     static constexpr Row row(char const * name)
     {
-        return {name, false, canBeRead, &give, &expectStart, &expectGiven, &told};
+        return {name, false, canBeRead, &give, &expectStart, &expectGiven, &recorded};
     }
 };
 

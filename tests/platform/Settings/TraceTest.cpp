@@ -32,7 +32,7 @@ std::vector<std::string> names(std::vector<Trace::Call> const & calls)
     return names;
 }
 
-/// The calls as Trace::describe tells them.
+/// The calls as Trace::describe returns them.
 Value callsOf(Trace const & trace, Settings const & settings)
 {
     return *trace.describe(settings).find("calls");

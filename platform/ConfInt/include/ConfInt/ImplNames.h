@@ -1,5 +1,5 @@
 /// @file
-/// Names under which the render engine knows its implementations.
+/// Names of the render engine's implementations.
 #pragma once
 
 #include <string>
@@ -8,7 +8,7 @@
 
 namespace Quoril::Proc::ImplNames {
 
-CONFINT_EXPORT extern std::string const DEFAULT; ///< whatever the engine prefers
+CONFINT_EXPORT extern std::string const DEFAULT; ///< the engine's choice
 CONFINT_EXPORT extern std::string const OGL;     ///< OpenGL
 CONFINT_EXPORT extern std::string const SPEEX;   ///< the Speex pre-processor
 

@@ -1,5 +1,5 @@
 /// @file
-/// Makers of plane transforms.
+/// Factories of plane transforms.
 #pragma once
 
 #include <ConfInt/Export.h>

@@ -16,33 +16,34 @@
 
 namespace External::ShaderISF {
 
-/// An ISF effect as the render engine takes it: three texts in UTF-8 with "\n" line ends.
+/// An ISF effect for the render engine: three texts in UTF-8 with "\nAn ISF effect for the render engine: three
+/// texts in UTF-8 with "
 struct ISFSettings
 {
-    /// The head of the file as a JSON document in one normal form, which the README of this library lays down.
+    /// The head of the file as a JSON document in the normal form that this library's README specifies.
     std::string config;
     /// The fragment shader without its head comment, which leaves its line breaks behind: the line numbers of a
     /// compiler's messages are those of the file.
     std::string pixelShader;
-    /// Empty when the effect brings none and so runs with the engine's own.
+    /// Empty if the effect has none, so that the engine uses its own.
     std::string vertexShader;
 };
 
 /// Largest size of a shader file, in bytes.
 inline constexpr std::size_t maximumFileSize = std::size_t(4) << 20;
 
-/// Largest size of the JSON object in a head, in bytes. What an object says takes a few hundred times its size in
-/// memory while it is read.
+/// Largest size of the JSON object in a head, in bytes. Reading takes a few hundred times
+/// that size in memory.
 inline constexpr std::size_t maximumHeadSize = std::size_t(256) << 10;
 
 /// Deepest nesting of arrays and objects in a head.
 inline constexpr int maximumDepth = 32;
 
-/// Loads the effect from `absolutePath` as loadFile() does; an empty path stands for the file that the editor's
-/// resource registry holds under `name`, and a folder for the shader of that `name` within.
+/// Loads the effect from `absolutePath` as loadFile() does; an empty path means the file registered
+/// under `name` in the resource registry, a folder the shader of that `name` in it.
 ///
-/// Never returns null and never throws: for what it cannot read, it logs one line at severity WARNING that names the
-/// file and the reason, and returns an object with three empty texts.
+/// Never returns null and never throws: on failure it logs one line at severity WARNING with the file and
+/// the reason, and returns an object with three empty texts.
 EDITOREXTERNALRESOURSES_EXPORT std::shared_ptr<ISFSettings> loadEffectISF(
     QString const & name, QString const & absolutePath);
 

@@ -6,15 +6,15 @@
 
 namespace External::ShaderISF {
 
-/// A file may write a key in either form, and the upper-case one wins where it writes both. The configuration text has
-/// the upper-case forms only.
+/// A file may have a key in either form; if it has both, the upper-case one is used. The configuration text has only
+/// upper-case forms.
 struct Key
 {
-    std::string_view upper; ///< as the format writes it
-    std::string_view lower; ///< as some files have it
+    std::string_view upper; ///< the form of the format's reference
+    std::string_view lower; ///< the form of some files
 };
 
-/// The keys that have a meaning. Others are passed over.
+/// The known keys. Others are ignored.
 namespace Keys {
 
 /// @{

@@ -1,5 +1,5 @@
 /// @file
-/// The catalogue as its users see it: items, and the collections that hold them.
+/// Items of the catalogue and the collections that hold them.
 #pragma once
 
 #include <memory>
@@ -14,23 +14,22 @@
 
 namespace EditorCollection {
 
-/// One thing that the catalogue offers: an effect with its settings, and where it is filed.
+/// An entry of the catalogue: an effect with its settings, and the categories that it belongs to.
 ///
-/// An item is filled by whoever reads or makes it, and no longer changed once a collection holds it. From then on any
-/// thread may ask it.
+/// An item is immutable once a collection holds it, and may then be read from any thread.
 class EDITORMODEL_EXPORT IItem
 {
 public:
     virtual ~IItem();
 
-    /// The names of the categories that the item is filed under, in ascending order.
+    /// The names of the item's categories, in ascending order.
     virtual std::set<QString> const & categories() const = 0;
-    /// Files the item under one more category.
+    /// Adds a category.
     virtual void addCategory(QString const & name) = 0;
-    /// What the item carries. It lives as long as the item.
+    /// The effect. It lives as long as the item.
     virtual Effect::Object const & payload() const = 0;
-    virtual void setUserFlagA(bool set) = 0; ///< what `userFlagA` answers
-    virtual void setUserFlagB(bool set) = 0; ///< what `userFlagB` answers
+    virtual void setUserFlagA(bool set) = 0; ///< sets what `userFlagA` returns
+    virtual void setUserFlagB(bool set) = 0; ///< sets what `userFlagB` returns
 
     /// Whether the item is the user's own, not a stock one. Clear at first.
     virtual bool userFlagA() const = 0;
@@ -68,18 +67,17 @@ struct Category
     CategoryInfo info; ///< as it was added
 };
 
-/// The items of one kind, such as all stock LUTs, and the categories that they are filed under. Any thread may call
-/// any of its operations at any time.
+/// The items of one kind, such as all stock LUTs, and their categories. Thread-safe.
 class EDITORMODEL_EXPORT ICollection
 {
 public:
     virtual ~ICollection();
 
-    /// Takes the item over. One that the collection does not want, such as null, is left with the caller.
+    /// Takes ownership of the item. A rejected item, such as null, stays with the caller.
     virtual void addItem(std::unique_ptr<IItem> && item) = 0;
-    /// The first item added whose payload bears that tag; null when there is none. It lives as long as the collection.
+    /// The first item added whose payload has that tag; null if there is none. It lives as long as the collection.
     virtual IItem const * itemByTag(QString const & tag) const = 0;
-    /// Adds a category. One that is there already stays as it is.
+    /// Adds a category. Does nothing if there is one of that name.
     virtual void addCategory(QString const & name, CategoryInfo const & info) = 0;
     virtual bool hasCategory(QString const & name) const = 0; ///< whether it was added
 

@@ -1,5 +1,5 @@
 /// @file
-/// The way to the catalogue.
+/// Access to the catalogue.
 #pragma once
 
 #include <vector>
@@ -18,24 +18,24 @@ class EDITORMODEL_EXPORT CollectionProvider
 public:
     CollectionProvider() = delete;
 
-    /// The collection of that name; null when there is none. It lives as long as its owner, which is usually the object
-    /// with which the host brought the catalogue up.
+    /// The collection of that name; null when there is none. Its owner keeps it alive, usually the
+    /// `Effect::ContentProvider`.
     static ICollection * collection(QString const & name);
     /// Every collection, in the order of registration.
     static std::vector<ICollection *> collections();
 
-    /// Makes a collection known under its name. Of two with one name the later one is found for as long as it is
-    /// registered.
+    /// Registers a collection under its name. A later registration of the same name hides an earlier one while it
+    /// lasts.
     static void registerCollection(ICollection & collection);
-    /// Takes a registration back; without one, does nothing.
+    /// Removes a registration, if there is one.
     static void unregisterCollection(ICollection const & collection);
 
     /// The storage that the host set. Throws `std::logic_error` when it has set none.
     static IItemStorage & itemStorage();
     /// The same, null when the host has set none.
     static IItemStorage * findItemStorage();
-    /// Sets the storage, which the host keeps alive until it sets another one or null. Loads made before stay with the
-    /// storage that they were made on.
+    /// Sets the storage, which the host keeps alive until it sets another one or null. Loads that were started stay
+    /// with their storage.
     static void setItemStorage(IItemStorage * storage);
 };
 

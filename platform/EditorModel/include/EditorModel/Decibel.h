@@ -5,7 +5,7 @@
 #include <EditorModel/Export.h>
 #include <EditorSerialization/Traversal.h>
 
-/// A level, kept as decibels, so that an archive loses nothing of it. A default level is 0 dB.
+/// A level, stored in decibels, so that archives keep it exactly. The default is 0 dB.
 class EDITORMODEL_EXPORT Decibel
 {
 public:
@@ -18,7 +18,7 @@ public:
     /// The level as an amplitude ratio, 10^(dB / 20): 1 at 0 dB, 0.5 near -6.02 dB.
     double toRelativeLevel() const;
 
-    /// For levels below the reference: `-6_dB`.
+    /// Allows `-6_dB`.
     constexpr Decibel operator-() const { return Decibel(-m_decibels); }
 
     /// Exact.

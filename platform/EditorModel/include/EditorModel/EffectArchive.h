@@ -1,5 +1,5 @@
 /// @file
-/// One effect to an archive and back, through its base pointer and with its dynamic class.
+/// Archives of one effect, written and read through its base pointer with its dynamic class.
 #pragma once
 
 #include <memory>

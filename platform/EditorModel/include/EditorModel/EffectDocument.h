@@ -22,7 +22,7 @@ enum class Severity
     Error,   ///< the effect cannot be read as it was written
 };
 
-/// What is odd or wrong at one place of a file.
+/// A problem at one place of a file.
 struct Finding
 {
     Severity severity = Severity::Error; ///< how bad it is
@@ -53,11 +53,11 @@ struct Finding
 class EDITORMODEL_EXPORT Document
 {
 public:
-    /// Reads a file, and finds everything that is wrong with it at once. Throws nothing for what is in it.
+    /// Reads a file, and collects all findings. Does not throw for any content.
     static Document read(std::string_view bytes);
     /// The same for a damaged file. A text counts up to its last whole value, a value of the wrong type leaves its
     /// field at the default, an element of a list that cannot be read is left out; a binary file counts up to the
-    /// damage. The findings say what is missing. Writing the document writes what could be had.
+    /// damage. The findings say what is missing. Writing the document writes what could be read.
     static Document salvage(std::string_view bytes);
 
     /// @{

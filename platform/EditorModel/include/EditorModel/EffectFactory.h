@@ -1,5 +1,5 @@
 /// @file
-/// The way from an effect to what the render engine executes.
+/// The interface of the factory that converts effects into settings of the render engine.
 #pragma once
 
 #include <array>
@@ -15,8 +15,8 @@
 
 namespace Effect::Factory {
 
-/// What the render engine executes for one effect. A record without settings is empty. It owns its settings, so it is
-/// moved and never copied.
+/// What the render engine executes for one effect. A record without settings is empty. It owns its settings, so it can
+/// be moved and not copied.
 struct EffectSettings
 {
     EffectSettings() = default;
@@ -62,13 +62,13 @@ protected:
     friend EDITORMODEL_EXPORT EffectSettings videoEffectSettings(Object const & effect, VideoParams const & params);
     friend EDITORMODEL_EXPORT EffectSettings audioEffectSettings(Object const & effect, AudioParams const & params);
 
-    /// What a video effect is executed by; empty for an effect that it cannot convert.
+    /// The settings of a video effect; empty for an effect that cannot be converted.
     virtual EffectSettings createVideoEffectSettings(Object const & effect, VideoParams const & params) = 0;
     /// The same for an audio effect.
     virtual EffectSettings createAudioEffectSettings(Object const & effect, AudioParams const & params) = 0;
 };
 
-/// Installs a factory, which its owner keeps alive, or takes the installed one back with null.
+/// Installs a factory, which its owner keeps alive; null removes the installed one.
 EDITORMODEL_EXPORT void setFactory(IFactory * factory);
 /// The installed factory, or null.
 EDITORMODEL_EXPORT IFactory * factory();

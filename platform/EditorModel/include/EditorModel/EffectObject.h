@@ -44,24 +44,24 @@ public:
     Object & operator=(Object &&) = default;
     ~Object() override;
 
-    QString tag{QLatin1String("")}; ///< tells the presets of one kind apart, and finds an item in its collection
-    QString id;                     ///< of the effect's kind, compared as text
-    QString groupId;                ///< of its group, or the identifier again
-    double intensity = 1.0;         ///< strength, 1 being the whole effect
-    Resource::ID resource;          ///< the file that the effect refers to; not valid when there is none
+    QString tag{QLatin1String("")};          ///< distinguishes presets of one kind; key of an item in its collection
+    QString id;                              ///< of the effect's kind, compared as text
+    QString groupId;                         ///< of its group, or the identifier again
+    double intensity = 1.0;                  ///< strength, 1 being the whole effect
+    Resource::ID resource;                   ///< the file that the effect refers to; not valid when there is none
     QString resourcePath{QLatin1String("")}; ///< of the resource's file
     std::optional<Types::Range> range;       ///< the part of the clip that the effect covers; all of it when absent
 
     QString const & mimeType() const override;
-    /// What tells the results of one processing from those of another: the identifier, unless a class says more.
+    /// Key for caches of processed results: the identifier, unless the class adds parameters.
     virtual QString processingSettingsId() const;
     /// What the effect works on.
     virtual Type type() const = 0;
     /// How it is carried out.
     virtual Impl impl() const = 0;
-    /// Whether a user can set the intensity: not, unless the class says so.
+    /// Whether a user can set the intensity; false unless overridden.
     virtual bool hasIntensity() const;
-    /// Whether the effect takes a second picture: not, unless the class says so.
+    /// Whether the effect takes a second picture; false unless overridden.
     virtual bool isTwoInput() const;
     /// The tag of a new effect of the class that came from no preset; empty for a class that names none.
     virtual QString defaultTag() const;

@@ -13,8 +13,8 @@
 
 namespace EditorCollection {
 
-/// Receives one item. What was created while the item was read belongs to the storage beside the pointer: whoever
-/// keeps the item first calls `releaseAll()` on that, which makes the payload the item's own.
+/// Receives one item. Objects created while reading belong to the storage in the pointer: call
+/// `releaseAll()` on it before you keep the item, which then owns its payload.
 using ItemCallback = std::function<void(serialize_ptr<IItem> &&)>;
 
 /// Reads items and delivers them.
@@ -23,7 +23,7 @@ class EDITORMODEL_EXPORT IItemStorage
 public:
     virtual ~IItemStorage();
 
-    /// Has the items found at `path` read for the collection of that name, and returns without waiting for them.
+    /// Starts to read the items at `path` for the collection of that name, and returns without waiting.
     /// `callback` is called once for each item that could be read, on a thread that the storage chooses. A storage may
     /// skip the rest of a load once `isWanted` is false for its callback.
     virtual void loadItems(QString const & path, QString const & collectionName, ItemCallback callback) = 0;
@@ -41,8 +41,8 @@ public:
     void loadItems(QString const & path, QString const & collectionName, ItemCallback callback) override;
 };
 
-/// The loads of one owner, which may go before the storages have delivered them. It refers to no storage: one may be
-/// replaced or destroyed while its loads are here. All operations may be called from any thread.
+/// The loads of one owner, which may be destroyed before they are delivered. It keeps no reference to a storage, so a
+/// storage may be replaced or destroyed first. Thread-safe.
 class EDITORMODEL_EXPORT ItemLoads
 {
 public:
@@ -54,8 +54,8 @@ public:
     /// Calls `storage.loadItems`, with a callback that calls `callback` until the load is dropped.
     void load(IItemStorage & storage, QString const & path, QString const & collectionName, ItemCallback callback);
 
-    /// Drops the loads made so far. None of their callbacks runs any more when this returns, except for one that makes
-    /// this very call. Later loads are carried out.
+    /// Drops the loads started so far. When this returns, none of their callbacks runs any more, except the caller
+    /// itself if it is one. Later loads are carried out.
     void drop();
 
 private:
@@ -63,8 +63,7 @@ private:
     std::unique_ptr<State> m_state;
 };
 
-/// Whether items are still delivered to this callback: false for one that `ItemLoads` gave to a storage and has dropped
-/// since. Any thread may ask.
+/// Whether items are still delivered to this callback: false once `ItemLoads` has dropped the load. Thread-safe.
 EDITORMODEL_EXPORT bool isWanted(ItemCallback const & callback);
 
 } // namespace EditorCollection

@@ -1,5 +1,5 @@
 /// @file
-/// Motion tracks: where a tracked thing stood in the picture, from time to time.
+/// Motion tracks: positions of a tracked object in the picture over time.
 ///
 /// A track is a JSON file, by default `<user root>/Tracks/<id>.track.json`:
 ///
@@ -10,7 +10,7 @@
 ///
 /// `time` is an integer of MTime units, each greater than the one before. `rect` is left, top, right and bottom as
 /// fractions of the picture's width and height. What is tracked may lie partly outside of the picture, so any finite
-/// number is taken. Other keys are skipped. A list without frames is a track that is nowhere at any time.
+/// number is taken. Other keys are ignored. A track without frames has no position at any time.
 #pragma once
 
 #include <memory>
@@ -36,14 +36,14 @@ struct EDITORMODEL_EXPORT Frame
     QRectF toRectF() const; ///< the same rectangle
 };
 
-/// Where the tracked thing was at one time.
+/// The position of the tracked object at one time.
 struct TimedFrame
 {
     MTime time;  ///< within the clip
-    Frame frame; ///< where the tracked thing was
+    Frame frame; ///< position of the tracked object
 };
 
-/// One track. It never changes, so that threads can share it.
+/// A track. Immutable, so threads can share it.
 class EDITORMODEL_EXPORT Data
 {
 public:
@@ -58,7 +58,7 @@ private:
 };
 
 /// Reads the track of the identifier `id`: the file registered for it, else the one in `Settings::userTracksPath()`.
-/// The file is read anew by every call.
+/// Every call reads the file again.
 ///
 /// Null when `id` is empty: there is no track. Null as well, with one warning in the log, when the file is missing or
 /// holds no track. In the folder an identifier is a plain file name, and one with a slash, a backslash or a NUL in it
@@ -70,7 +70,7 @@ EDITORMODEL_EXPORT std::shared_ptr<Data const> loadTrackingData(QString const & 
 /// folder's. For the whole process, from any thread.
 EDITORMODEL_EXPORT void registerTrack(QString const & id, QString const & path);
 
-/// Takes a registration back; without one, does nothing.
+/// Removes a registration, if there is one.
 EDITORMODEL_EXPORT void unregisterTrack(QString const & id);
 
 /// The file of the identifier `id`: the one registered for it, else the one in `Settings::userTracksPath()`, whether it

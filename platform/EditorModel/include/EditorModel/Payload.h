@@ -1,5 +1,5 @@
 /// @file
-/// What an item of the catalogue carries.
+/// The content of a catalogue item.
 #pragma once
 
 #include <cstdint>
@@ -15,21 +15,21 @@ namespace EditorCollection {
 class EDITORMODEL_EXPORT Payload : public Serialize::ISerializable
 {
 public:
-    /// How the files behind a payload are brought when they are not there yet.
+    /// How missing files of a payload are downloaded.
     enum class DownloadResourceType : std::int32_t
     {
-        None = 0,  ///< there is nothing to bring
+        None = 0,  ///< nothing to download
         Media = 1, ///< a media file
         Shader = 2 ///< a shader with the files beside it
     };
 
-    /// How the payload's files are brought: `None`, unless the class says more.
+    /// How missing files are downloaded; `None` unless overridden.
     virtual DownloadResourceType downloadResourceType() const;
     /// The media type of the payload's kind, such as "application/x-editor-effect". It lives as long as the payload.
     virtual QString const & mimeType() const = 0;
 
 protected:
-    /// The text by which an item is found again in the catalogue.
+    /// The text that identifies an item in the catalogue.
     virtual QString generateItemFindingId() const = 0;
     /// The same in catalogues of earlier versions.
     virtual QString generateLegacyItemFindingId() const = 0;

@@ -26,7 +26,7 @@ enum class Type : std::int32_t
     Video = 1,
     Audio = 2,
     Image = 3,
-    Blob = 4, ///< bytes that the editor does not look into: LUT and shader files
+    Blob = 4, ///< opaque bytes: LUT and shader files
 };
 
 /// The name of a resource and its type. Two resources of different types may share a name.
@@ -44,7 +44,7 @@ public:
 
     QString const & name() const { return m_name; } ///< of the resource, not of a file
     Type type() const { return m_type; }            ///< what it is
-    /// Whether it can name a resource at all: it has a name and a type.
+    /// Whether it has a name and a type.
     bool isValid() const { return !m_name.isEmpty() && m_type != Type::None; }
 
     /// By name and type.
@@ -70,10 +70,10 @@ private:
 /// How a resource runs in time.
 struct EDITORMODEL_EXPORT Timing : public Serialize::ISerializable
 {
-    int loopCount = 0; ///< as it was told; nothing here repeats
+    int loopCount = 0; ///< stored, not interpreted here
     MTime start;       ///< where it begins
     MTime length;      ///< zero when the resource has none of its own
-    int flags = 0;     ///< as they were told
+    int flags = 0;     ///< stored, not interpreted here
 
     Timing();
     Timing(Timing const &) = default;
@@ -108,7 +108,7 @@ struct Image
 /// One for the process, safe to call from any thread.
 /// @{
 
-/// Makes a file known under `id`. A later registration takes the place of an earlier one.
+/// Registers a file under `id`. A later registration replaces an earlier one.
 /// @param path    of the file, read when it is asked for
 /// @param index   of the stream in the file
 /// @param length  zero when the resource has no length of its own
@@ -117,9 +117,9 @@ EDITORMODEL_EXPORT void registerResource(
 /// The same, unless a file is registered under `id` already. Returns whether it was registered here.
 EDITORMODEL_EXPORT bool tryRegisterResource(
     ID const & id, QString const & path, int index, MTime length, Timing const & timing);
-/// Takes a registration back; without one, does nothing.
+/// Removes a registration, if there is one.
 EDITORMODEL_EXPORT void unregisterResource(ID const & id);
-/// Whether a file is registered under that very name and type.
+/// Whether a file is registered under exactly that name and type.
 EDITORMODEL_EXPORT bool isResourceRegistered(ID const & id);
 
 /// What a resource was registered with.
@@ -139,12 +139,12 @@ EDITORMODEL_EXPORT QString registeredPath(QString const & name);
 
 /// The bytes of the regular file registered under that name. Never null; the blob of what is missing, unreadable or
 /// larger than `maxBlobSize` is empty.
-/// @param error  if not null, told why the blob is empty
+/// @param error  if not null, receives the reason why the blob is empty
 EDITORMODEL_EXPORT std::unique_ptr<Blob> provideBlobResource(QString const & name, QString * error);
 
 /// The picture in the regular file registered under that name, as an image before other types; null when nothing is
 /// registered. Pixmaps, and so pictures, need a QGuiApplication.
-/// @param error  if not null, told why there is no picture
+/// @param error  if not null, receives the reason why there is no picture
 EDITORMODEL_EXPORT std::unique_ptr<Image> provideImageResource(QString const & name, QString * error);
 
 inline constexpr std::int64_t maxBlobSize = std::int64_t(256) << 20;    ///< bytes

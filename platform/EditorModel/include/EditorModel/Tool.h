@@ -6,7 +6,7 @@
 
 namespace Tool {
 
-/// A tool of the editor that sets up an effect. The numbers between these belong to tools that edit something else.
+/// A tool of the editor that sets up an effect. The other numbers belong to tools that do not set up effects.
 enum class Type : std::int32_t
 {
     None = 0,

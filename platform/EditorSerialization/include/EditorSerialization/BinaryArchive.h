@@ -46,12 +46,12 @@ class EDITORSERIALIZATION_EXPORT BinaryOArchive
 public:
     /// @param flags  `boost::archive::no_header` leaves the magic number and the version out
     explicit BinaryOArchive(std::streambuf & stream, unsigned flags = 0);
-    /// Writes into the stream's buffer; its state is neither asked nor set.
+    /// Writes into the stream's buffer; the stream's state is neither checked nor set.
     explicit BinaryOArchive(std::ostream & stream, unsigned flags = 0);
     ~BinaryOArchive() override;
 
     /// @{
-    /// One of the framework's entry points, taken over: nobody else calls it.
+    /// An entry point of the framework; not to be called directly.
     void register_basic_serializer(boost::archive::detail::basic_oserializer const & serializer);
     void save_object(void const * object, boost::archive::detail::basic_oserializer const & serializer);
     void save_pointer(void const * object, boost::archive::detail::basic_pointer_oserializer const * serializer);
@@ -115,7 +115,7 @@ private:
 
 namespace Detail {
 
-/// The object as a `T`, given up by its owner; throws when it is of another class.
+/// The object, released from its owner, as a `T`; throws if it is of another class.
 template <class T, class Loaded> T * castTo(Loaded & loaded, ByteReader const & bytes)
 {
     ISerializable * const object = loaded.shared ? loaded.shared : loaded.object.get();
@@ -148,18 +148,18 @@ class EDITORSERIALIZATION_EXPORT BinaryIArchive
 public:
     /// @param flags  `boost::archive::no_header` expects neither magic number nor version
     explicit BinaryIArchive(std::streambuf & stream, unsigned flags = 0);
-    /// Reads from the stream's buffer; its state is neither asked nor set.
+    /// Reads from the stream's buffer; the stream's state is neither checked nor set.
     explicit BinaryIArchive(std::istream & stream, unsigned flags = 0);
     ~BinaryIArchive() override;
 
-    /// From here on, an error in an object behind a pointer does not end the read: the object and its owners are kept
-    /// as far as they were read, and nothing more is read. `failure` then says what was wrong.
+    /// From now on, an error in an object behind a pointer does not throw: the object and its owners are kept as far
+    /// as they were read, and reading stops. `failure` then returns the error.
     void keepWhatIsRead() { m_keepsWhatIsRead = true; }
-    /// The error after which nothing more was read; nothing while all is well.
+    /// The error that stopped reading, if any.
     std::optional<ArchiveError> const & failure() const { return m_failure; }
 
     /// @{
-    /// One of the framework's entry points, taken over: nobody else calls it.
+    /// An entry point of the framework; not to be called directly.
     void register_basic_serializer(boost::archive::detail::basic_iserializer const & serializer);
     void load_object(void * object, boost::archive::detail::basic_iserializer const & serializer);
     /// @}
@@ -202,9 +202,9 @@ private:
     template <class T> void load_override(std::deque<T> & elements)
     {
         std::uint64_t const count = beginCollection();
-        // Not before: a stream that ends in the count leaves the list alone.
+        // Only now, so that a stream that ends in the count leaves the list unchanged.
         elements.clear();
-        // Never reserved: the count is believed only as far as elements follow.
+        // Not reserved, since the count is not trusted until the elements follow.
         for (std::uint64_t left = count; left > 0; --left)
             loadElement(elements);
     }
@@ -213,7 +213,7 @@ private:
         try {
             load_override(elements.emplace_back());
         } catch (...) {
-            // An empty slot is not what was written.
+            // The list was written with an object here, so an empty slot is an error.
             if (Detail::IsOwningPointer<T>::value && m_keepsWhatIsRead)
                 elements.pop_back();
             throw;
@@ -221,7 +221,7 @@ private:
     }
     void load_override(boost::archive::class_name_type & name);
 
-    /// What a pointer leads to: a new object, or one that an earlier pointer led to.
+    /// The target of a pointer: a new object, or that of an earlier pointer.
     struct Loaded
     {
         std::unique_ptr<ISerializable> object;
@@ -241,7 +241,7 @@ private:
 
     ByteReader m_bytes;
     Detail::InputClasses<BinaryIArchive> m_classes;
-    /// By number; null for what was read by value or only in part, which nothing may refer to.
+    /// By number; null for objects read by value or only in part, to which no reference is allowed.
     std::vector<ISerializable *> m_objects;
     int m_depth = 0;
     bool m_keepsWhatIsRead = false;

@@ -1,5 +1,5 @@
 /// @file
-/// Plain values to and from a byte stream, in the machine's byte order. The reader believes nothing that it reads.
+/// Plain values to and from a byte stream, in the machine's byte order. The reader trusts no value that it reads.
 #pragma once
 
 #include <cstddef>
@@ -59,7 +59,7 @@ public:
         if (got != static_cast<std::streamsize>(count))
             failShort(count - static_cast<std::size_t>(got));
     }
-    /// A value that is not there whole changes nothing.
+    /// An incomplete value changes nothing.
     template <class T> void read(T & value)
     {
         unsigned char whole[sizeof value];
@@ -67,9 +67,9 @@ public:
         std::memcpy(static_cast<void *>(&value), whole, sizeof value);
     }
     void read(bool & value);                                 ///< one byte, 0 or 1
-    void read(std::string & text);                           ///< takes memory as the bytes arrive
+    void read(std::string & text);                           ///< allocates as the bytes arrive
     void readShort(std::string & text, std::size_t longest); ///< refuses a text of more than `longest` bytes
-    /// A text equal to the one that is there keeps the old one's storage.
+    /// If the text is equal to the old one, the old one keeps its storage.
     void read(QString & text);
 
     /// Bytes read so far.

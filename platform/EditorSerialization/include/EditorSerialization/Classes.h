@@ -1,5 +1,5 @@
 /// @file
-/// What an archive knows of the classes that it has met. For the archives of this library only.
+/// Classes known to an archive. For the archives of this library only.
 #pragma once
 
 #include <cstdint>
@@ -23,7 +23,7 @@
 
 namespace Serialize::Detail {
 
-/// What an archive knows of a class.
+/// A class known to an archive.
 template <class Serializer> struct ArchiveClass
 {
     Serializer const * serializer;
@@ -38,10 +38,10 @@ template <class Serializer> struct ArchiveClass
 using OutputClass = ArchiveClass<boost::archive::detail::basic_oserializer>;
 using InputClass = ArchiveClass<boost::archive::detail::basic_iserializer>;
 
-/// The classes that an archive has met, numbered in that order.
+/// The classes that an archive has encountered, numbered in that order.
 ///
-/// A module that archives an object by value brings a serializer of its own for the class. All of them stand for one
-/// class here, the one whose serializer the class's own module registered.
+/// Every module that archives objects of a class by value has its own serializer for it. All of them are mapped to one
+/// class here, that of the serializer which the class's own module registered.
 template <class Archive, class Serializer, class PointerSerializer> class Classes
 {
 public:

@@ -10,8 +10,8 @@
 
 namespace Serialize {
 
-/// What is wrong with an archive, and where. It carries the framework's code, so that a caller that catches the
-/// framework's exception loses nothing.
+/// An error in an archive, with its position. It has the framework's error code and derives from its exception, so that
+/// existing handlers work.
 class EDITORSERIALIZATION_EXPORT ArchiveError : public boost::archive::archive_exception
 {
 public:
@@ -29,8 +29,8 @@ private:
     std::string m_text;
 };
 
-/// Objects may own objects, and those own others, to this depth. Every reader and writer refuses more, so that a
-/// hostile or runaway document ends in an error and not at the end of the stack.
+/// Maximum nesting of objects that own objects. Readers and writers refuse more, so that a hostile document causes an
+/// error instead of a stack overflow.
 inline constexpr int maxObjectDepth = 64;
 
 /// Counts one level of objects while it lives; throws an `ArchiveError` past `maxObjectDepth`.
@@ -39,7 +39,7 @@ class EDITORSERIALIZATION_EXPORT DepthGuard
 public:
     /// @param depth  the counter, which outlives the guard
     explicit DepthGuard(int & depth);
-    /// The same, but `fail` is given the text and throws, to say where it is.
+    /// The same, but calls `fail` with the text, which throws with the position.
     template <class Fail>
     DepthGuard(int & depth, Fail const & fail)
         : m_depth(depth)

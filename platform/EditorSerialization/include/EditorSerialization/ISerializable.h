@@ -1,5 +1,5 @@
 /// @file
-/// The root of everything that can stand in an archive.
+/// The base of all archived classes.
 #pragma once
 
 #include <string>
@@ -15,7 +15,7 @@ class ISerializer;
 class IDeserializer;
 struct Layout;
 
-/// An object that knows its name in archives and walks the two polymorphic interfaces.
+/// An object with an archive name and the two polymorphic interfaces.
 class EDITORSERIALIZATION_EXPORT ISerializable
 {
 public:
@@ -25,8 +25,8 @@ public:
     virtual std::string GetNameInArchive() const = 0;
     /// Writes the content, without the name.
     virtual void Serialize(ISerializer & serializer) const = 0;
-    /// Reads the content over what is there. Throws where something else stands than was written; what was read until
-    /// then stays.
+    /// Reads the content into this object. Throws if the input does not match; fields read before keep their new
+    /// values.
     virtual void Deserialize(IDeserializer & deserializer) = 0;
     /// The table of the class's fields, see <EditorSerialization/Layout.h>; null for a class that has none.
     virtual Layout const * GetLayout() const;
@@ -39,7 +39,7 @@ protected:
     ISerializable & operator=(ISerializable &&) = default;
 };
 
-/// Lets the archives reach a class's private `serialize`; every class befriends it.
+/// Gives the archives access to a class's private `serialize`; a friend of every class.
 struct Access
 {
     /// Calls the object's own `serialize`.
@@ -51,7 +51,7 @@ struct Access
     /// The class's own table of its fields, see <EditorSerialization/Layout.h>.
     template <class T> static constexpr Layout const * layout() { return &T::s_layout; }
 
-    /// Whether `T` declares a `serialize` of its own. One that it merely inherits would archive the base alone.
+    /// Whether `T` declares a `serialize` of its own. An inherited one would archive only the base.
     template <class T, class Archive> static constexpr bool hasOwnSerialize()
     {
         return std::is_same_v<decltype(&T::template serialize<Archive>), void (T::*)(Archive &)>;
@@ -59,7 +59,7 @@ struct Access
 };
 
 /// Hooks the versionless `serialize(Archive &)` of our classes into the archive framework, which finds this overload
-/// through the base class. The third parameter has to be this very type: with a plain integer the call is ambiguous.
+/// through the base class. The third parameter must have this type; with a plain integer the call is ambiguous.
 template <class Archive, class T, class = std::enable_if_t<std::is_base_of_v<ISerializable, T>>>
 void serialize(Archive & archive, T & object, boost::serialization::version_type)
 {

@@ -1,5 +1,5 @@
 /// @file
-/// The two polymorphic interfaces through which an object can be written and read.
+/// The two polymorphic interfaces for writing and reading objects.
 #pragma once
 
 #include <cstdint>
@@ -12,7 +12,7 @@
 
 namespace Serialize {
 
-/// Takes plain values in order. What a value means is told by the name before it.
+/// Receives plain values in order, each after its name.
 class EDITORSERIALIZATION_EXPORT IValueWriter
 {
 public:
@@ -35,7 +35,7 @@ public:
     virtual ~IValueWriter();
 };
 
-/// Gives plain values in the order in which they were written; throws when something else stands there.
+/// Returns plain values in the order in which they were written; throws if the input differs.
 class EDITORSERIALIZATION_EXPORT IValueReader
 {
 public:
@@ -46,7 +46,7 @@ public:
     /// What follows must be the value of that name.
     virtual void name(char const * name) = 0;
     /// @{
-    /// Fills one value in. It must stand there in this very form.
+    /// Reads one value. It must have been written with the same type.
     virtual void value(QString & value) = 0;
     virtual void value(std::string & value) = 0;
     virtual void value(std::int64_t & value) = 0;
@@ -66,7 +66,7 @@ public:
     virtual void write(ISerializable const * object) = 0;
     /// Writes an object whose class the reader knows.
     virtual void write(ISerializable const & object) = 0;
-    /// Where the values between the objects go.
+    /// Receives the values between the objects.
     virtual IValueWriter & values() = 0;
     virtual ~ISerializer();
 };
@@ -79,7 +79,7 @@ public:
     virtual void read(std::unique_ptr<ISerializable> & holder) = 0;
     /// Reads an object whose class the caller knows into place.
     virtual void read(ISerializable & object) = 0;
-    /// Where the values between the objects come from.
+    /// Provides the values between the objects.
     virtual IValueReader & values() = 0;
     virtual ~IDeserializer();
 };

@@ -23,15 +23,15 @@
 
 namespace Serialize::Json {
 
-/// Keys of the meta object, which tells what is no field.
+/// Keys of the meta object, which holds everything that is not a field.
 namespace MetaDetails {
 inline constexpr char const * s_meta = "$meta";       ///< the meta object itself
 inline constexpr char const * s_class_name = "class"; ///< archive name of the object's class
 inline constexpr char const * s_id = "id";            ///< number of an object that is referred to
-inline constexpr char const * s_reference = "ref";    ///< number of the object that stands here
+inline constexpr char const * s_reference = "ref";    ///< number of the referenced object
 } // namespace MetaDetails
 
-/// A text is parsed to this depth; objects within `maxObjectDepth` of each other never reach it.
+/// Maximum nesting of arrays and objects. Objects nested up to `maxObjectDepth` stay below it.
 inline constexpr int maxDocumentDepth = 256;
 
 /// Parses a JSON text. Throws an `ArchiveError` that names line, column and JSON pointer, for a text that is nested too
@@ -53,7 +53,7 @@ EDITORSERIALIZATION_EXPORT void save(nlohmann::json & value, int number);
 EDITORSERIALIZATION_EXPORT void save(nlohmann::json & value, unsigned number);
 EDITORSERIALIZATION_EXPORT void save(nlohmann::json & value, std::int64_t number);
 EDITORSERIALIZATION_EXPORT void load(nlohmann::json const & value, std::string & text);
-/// A text equal to the one that is there keeps the old one's storage.
+/// If the text is equal to the old one, the old one keeps its storage.
 EDITORSERIALIZATION_EXPORT void load(nlohmann::json const & value, QString & text);
 EDITORSERIALIZATION_EXPORT void load(nlohmann::json const & value, bool & flag);
 EDITORSERIALIZATION_EXPORT void load(nlohmann::json const & value, double & number);
@@ -102,7 +102,7 @@ public:
     nlohmann::json & head() { return *m_stack.back(); }
 
     /// @{
-    /// One of the framework's entry points, taken over: nobody else calls it.
+    /// An entry point of the framework; not to be called directly.
     void register_basic_serializer(boost::archive::detail::basic_oserializer const & serializer);
     void save_object(void const * object, boost::archive::detail::basic_oserializer const & serializer);
     void save_pointer(void const * object, boost::archive::detail::basic_pointer_oserializer const * serializer);
@@ -110,7 +110,7 @@ public:
     /// @}
 
 private:
-    /// A value that is built apart from the document, and moved into it when it is whole.
+    /// A value that is built separately and moved into the document when complete.
     class EDITORSERIALIZATION_EXPORT Draft
     {
     public:
@@ -142,7 +142,7 @@ private:
     }
     void forget(char const * key);
 
-    // The framework's own records are classes; none of them reaches a document.
+    // The framework's own records are classes too; they are not written to documents.
     template <class T> void save([[maybe_unused]] T const & value)
     {
         if constexpr (!std::is_class_v<T>)
@@ -203,8 +203,8 @@ private:
     int m_depth = 0;
 };
 
-/// Reads from a document, which must outlive the archive. Keys that are absent leave their fields alone, keys that
-/// nothing asks for are ignored.
+/// Reads from a document, which must outlive the archive. Absent keys leave their fields unchanged, unknown keys are
+/// ignored.
 ///
 /// Throws `ArchiveError` with a text that says what is wrong and where, as a JSON pointer into the document ("at
 /// /Effect::VideoEffect/color"), code 2 for a class that is not registered; and `std::out_of_range` for a reference to
@@ -224,7 +224,7 @@ public:
     nlohmann::json const & head() const { return *m_stack.back().value; }
 
     /// @{
-    /// One of the framework's entry points, taken over: nobody else calls it.
+    /// An entry point of the framework; not to be called directly.
     void register_basic_serializer(boost::archive::detail::basic_iserializer const & serializer);
     void load_object(void * object, boost::archive::detail::basic_iserializer const & serializer);
     /// @}
@@ -238,7 +238,7 @@ private:
         bool followed;     // reached through a reference
     };
 
-    /// Stands in a value for as long as it lives.
+    /// Enters a value for its lifetime.
     class Inside
     {
     public:
@@ -255,7 +255,7 @@ private:
         iarchive & m_archive;
     };
 
-    // The framework's own records are classes; none of them stands in a document.
+    // The framework's own records are classes too; documents do not contain them.
     template <class T> void load([[maybe_unused]] T & value)
     {
         if constexpr (!std::is_class_v<T>)

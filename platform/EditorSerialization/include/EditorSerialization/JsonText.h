@@ -1,9 +1,9 @@
 /// @file
 /// JSON texts of objects, read and written without a tree in between: an order of magnitude faster than `Json::parse`
-/// with `Json::iarchive`, and `Json::oarchive` with `dump`. They go by the layouts of the classes.
+/// with `Json::iarchive`, and `Json::oarchive` with `dump`. They use the layouts of the classes.
 ///
-/// What these functions read and write is what the archives read and write. They may refuse; the archives then do the
-/// work, or say what is wrong and where.
+/// The results equal those of the archives. A function may refuse its input; use the archives then, which read it or
+/// report the error with its position.
 #pragma once
 
 #include <memory>

@@ -28,8 +28,8 @@ struct TextTree
 /// `maxDocumentDepth` levels are damage.
 EDITORSERIALIZATION_EXPORT TextTree readTree(std::string_view text);
 
-/// Where the values with these JSON pointers begin, in bytes: of a member, its key. Of several members with one key the
-/// last one counts. Pointers to nothing are absent.
+/// The byte offsets of the values with these JSON pointers; for a member, that of its key. Of several members with one
+/// key the last one counts. Pointers to nothing are absent.
 EDITORSERIALIZATION_EXPORT std::map<std::string, std::size_t> offsetsOf(
     std::string_view text, std::set<std::string> const & pointers);
 

@@ -1,6 +1,6 @@
 /// @file
-/// Foreign text in messages. Files and their names may be made of any bytes, while the text of an exception and a line
-/// of the log are one line of well-formed UTF-8.
+/// Foreign text in messages. Files and their names may contain any bytes; messages of exceptions and log lines are one
+/// line of well-formed UTF-8.
 #pragma once
 
 #include <string>
@@ -10,8 +10,8 @@
 
 namespace Serialize {
 
-/// The text as a message can bear it: U+FFFD takes the place of bytes that are no UTF-8 and of control characters. Of
-/// more than 2000 UTF-16 units the middle is left out, since the log cuts off long lines wherever that falls.
+/// The text made fit for a message: invalid UTF-8 and control characters are replaced by U+FFFD, and a text of more
+/// than 2000 UTF-16 units is shortened in its middle, since the log would cut it at an arbitrary byte.
 EDITORSERIALIZATION_EXPORT std::string messageText(std::string_view bytes);
 
 /// The first 200 UTF-16 units of the text, with an ellipsis behind if there are more; U+FFFD for bytes that are no

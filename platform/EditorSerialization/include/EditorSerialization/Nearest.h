@@ -1,5 +1,5 @@
 /// @file
-/// What a misspelt word was most likely meant to be.
+/// Suggestions for misspelt words.
 #pragma once
 
 #include <string>
@@ -10,9 +10,8 @@
 
 namespace Serialize {
 
-/// The candidate that is nearest to the word: the one that the fewest changed, missing, superfluous or swapped letters
-/// make of it, upper and lower case being the same; the first of several. Empty when none is alike, more than half of
-/// the letters being wrong.
+/// The candidate with the least edit distance from the word, ignoring case; the first of several. Empty if more than
+/// half of the letters would be wrong.
 EDITORSERIALIZATION_EXPORT std::string nearest(std::string_view word, std::vector<std::string> const & candidates);
 
 /// "; did you mean "X"?", for the end of a message; empty when no candidate is alike.

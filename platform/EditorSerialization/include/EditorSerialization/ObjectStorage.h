@@ -1,5 +1,5 @@
 /// @file
-/// Owning what a read created until somebody takes it over.
+/// Ownership of objects that were created by reading.
 #pragma once
 
 #include <cstddef>
@@ -10,35 +10,34 @@
 
 namespace Serialize {
 
-/// Owns objects that a read created. An object that owns others, as a holder does, keeps them: only the outermost
-/// object is the storage's.
+/// Owns objects that were created by reading. Objects owned by another object, such as a holder, are not the storage's.
 class EDITORSERIALIZATION_EXPORT ObjectStorage
 {
 public:
     ObjectStorage() noexcept;
     ~ObjectStorage(); ///< deletes what it still owns
-    /// What one storage owns, the other one owns afterwards.
+    /// Transfers ownership.
     ObjectStorage(ObjectStorage &&) noexcept;
-    /// What this one owned before is deleted.
+    /// Deletes the objects owned before.
     ObjectStorage & operator=(ObjectStorage &&) noexcept;
 
     /// Takes the object over and returns it.
-    /// @param released  called when the storage gives the object up, and not when it deletes it
+    /// @param released  called when the storage releases the object, not when it deletes it
     ISerializable * add(std::unique_ptr<ISerializable> object, std::function<void()> released = {});
 
-    /// Gives up the ownership of every object, so that they outlive the storage.
+    /// Releases all objects, so that they outlive the storage.
     void releaseAll();
 
-    /// Objects owned at present.
+    /// Number of objects owned.
     std::size_t size() const;
 
 private:
     struct State;
-    std::unique_ptr<State> m_state; // null until something is added: one stands beside each item that is delivered
+    std::unique_ptr<State> m_state; // null until something is added, since every delivered item has a storage
 };
 
-/// An owning pointer to something read, together with the storage that owns what was created on the way. Whoever takes
-/// the pointer out first calls `storage.releaseAll()`.
+/// An owning pointer to an object that was read, with the storage that owns the objects created on the way. Call
+/// `storage.releaseAll()` before you move the pointer out.
 template <class T> struct serialize_ptr
 {
     std::unique_ptr<T> pointer; ///< the object itself; null when nothing was read

@@ -1,5 +1,5 @@
 /// @file
-/// An archive that writes nothing and remembers which objects it reached.
+/// An archive that records which objects it reached and writes nothing.
 #pragma once
 
 #include <cstdint>
@@ -18,8 +18,8 @@
 namespace Serialize {
 
 /// Walks an object as the archives do and records each object that it reaches through a pointer or a reference, and
-/// how. A graph in which one object is reached in two ways that cannot stand together is refused with a
-/// `std::runtime_error`; what was recorded so far stays.
+/// how. An object that is reached in two conflicting ways is refused with a `std::runtime_error`;
+/// the entries recorded so far stay.
 ///
 /// The tracker never releases anything by itself.
 class EDITORSERIALIZATION_EXPORT ObjectTracker : public boost::archive::detail::common_oarchive<ObjectTracker>
@@ -35,10 +35,10 @@ public:
         Unknown = 0,
         Reference = 1,    ///< reached by reference
         OwnedPointer = 2, ///< reached by pointer; the entry can release the object
-        Pointer = 3,      ///< reached by pointer; the object belongs to somebody else
+        Pointer = 3,      ///< reached by pointer; the object has another owner
     };
 
-    /// What is known of one object.
+    /// The record of one object.
     struct Entry
     {
         Kind kind = Kind::Unknown;     ///< how it was reached first
@@ -52,17 +52,17 @@ public:
     ObjectTracker();
     ~ObjectTracker() override;
 
-    /// What was reached so far, by address.
+    /// The objects reached so far, by address.
     Entries const & entries() const { return m_entries; }
 
     /// With the flag set, a pointer newly found becomes `Pointer` instead of `OwnedPointer`.
     void setForeign(bool foreign) { m_foreign = foreign; }
     bool isForeign() const { return m_foreign; } ///< the flag
 
-    /// Marks an object as somebody else's before a pointer to it is walked, so that it gets no release function.
+    /// Marks an object as foreign before a pointer to it is walked, so that it gets no release function.
     void forceForeign(void const * object);
 
-    /// Takes an object over as if a pointer to it had been walked with the flag clear, whatever its entry said before.
+    /// Takes ownership of an object as if a pointer to it had been walked with the flag clear, whatever its entry was.
     void own(ISerializable const * object);
 
     /// Deletes the objects that were reached by pointer, through their release functions, and forgets every entry. An
@@ -73,7 +73,7 @@ public:
     void clear() { m_entries.clear(); }
 
     /// @{
-    /// One of the framework's entry points, taken over: nobody else calls it.
+    /// An entry point of the framework; not to be called directly.
     void register_basic_serializer(boost::archive::detail::basic_oserializer const & serializer);
     void save_object(void const * object, boost::archive::detail::basic_oserializer const & serializer);
     void save_pointer(void const * object, boost::archive::detail::basic_pointer_oserializer const * serializer);
@@ -98,7 +98,7 @@ private:
     void save_override(std::string const &) {}
     template <class T> void save_override(std::unique_ptr<T> const & object)
     {
-        // A field or an element of the object that is being walked. Outside of any object it is the caller's variable.
+        // A field or an element of the object being walked, or a variable of the caller outside of objects.
         if (object && m_walked)
             m_entries[dynamic_cast<void const *>(object.get())].held = true;
         save_impl(object.get());
@@ -115,7 +115,7 @@ private:
     }
     template <class T> void save_override(std::deque<T> const & elements)
     {
-        // Counts are values on the stack: they must not lie where an object on the heap is said to lie.
+        // Counts are values on the stack, whose address may be that of a recorded object.
         std::size_t const count = elements.size();
         checkCount(&count);
         std::uint32_t const itemVersion = 0;
@@ -137,7 +137,7 @@ private:
             if (!m_foreign)
                 entry.release = [object] { delete object; };
         }
-        // The entry stands before the class is asked for: it stays when the class turns out not to be registered.
+        // The entry is made before the class is looked up, so it stays if the class is not registered.
         savePointed(address, m_classes.ofObject(*object));
     }
     void savePointed(void const * object, Detail::OutputClass const & type);

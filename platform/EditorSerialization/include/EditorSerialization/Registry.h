@@ -1,5 +1,5 @@
 /// @file
-/// Building objects from their archive names.
+/// Creation of objects by archive name.
 #pragma once
 
 #include <memory>
@@ -20,8 +20,8 @@ public:
     virtual ~BaseCreator();
 };
 
-/// Makes a class known by its archive name for as long as the registrator lives: a static of the class, built when
-/// its library is loaded and destroyed when it is unloaded.
+/// Registers a class under its archive name for its own lifetime: a static member of the class, constructed when the
+/// library is loaded and destroyed when it is unloaded.
 class EDITORSERIALIZATION_EXPORT Registrator
 {
 public:
@@ -41,7 +41,7 @@ private:
     bool m_isFirst; // owns the name
 };
 
-/// The classes that can be made by name. Any thread may ask; asking takes no lock.
+/// The classes that can be created by name. Thread-safe; lookups take no lock.
 namespace Registry {
 
 /// A registered class.

@@ -1,6 +1,6 @@
 /// @file
-/// The polymorphic interfaces over a byte stream: each value with a mark of its form in front, so that a reader that
-/// asks for something else is told so.
+/// The polymorphic interfaces over a byte stream: each value is preceded by a mark of its type, so that a reader that
+/// expects another type reports an error.
 #pragma once
 
 #include <streambuf>

@@ -1,5 +1,5 @@
 /// @file
-/// How a class tells its content, once for all archives: `fields<Base>(archive, *this, field("key", member), ...)`
+/// How a class describes its content once for all archives: `fields<Base>(archive, *this, field("key", member), ...)`
 /// walks the base first, then the fields in the order given. The JSON archives use the keys, the binary ones the
 /// order alone, and the polymorphic interfaces both.
 #pragma once
@@ -21,7 +21,7 @@
 
 namespace Serialize {
 
-/// A key, which is a literal or null, and a pointer to the value that stands under it.
+/// A key, which is a literal or null, and a pointer to its value.
 template <class T> using Field = boost::serialization::nvp<T> const;
 
 /// A field of that key. The key must outlive it.
@@ -63,8 +63,8 @@ template <class T> struct IsOwningPointer : std::false_type
 template <class T> struct IsOwningPointer<std::unique_ptr<T>> : std::true_type
 {};
 
-/// Reads over a copy, which becomes the value when it has been read whole. Keys that are absent keep what the value
-/// was, and a read that fails leaves the value alone.
+/// Reads into a copy, which replaces the value on success. Absent keys keep the old value, and a failed read leaves the
+/// value unchanged.
 template <class T, class Read> void readWhole(T & value, Read const & read)
 {
     T copy = value;
@@ -119,7 +119,7 @@ template <class T> void readContent(IDeserializer & deserializer, T & value)
         if constexpr (!IsOwningPointer<Element>::value)
             value.clear();
         for (std::int32_t number = 1; number <= count; ++number) {
-            // First the slot: it stays, empty, when its object cannot be read.
+            // The slot comes first; it stays empty if its object cannot be read.
             Element & slot = value.emplace_back();
             values.beginItem(number);
             readContent(deserializer, slot);

@@ -1,5 +1,5 @@
 /// @file
-/// How collections are divided into categories.
+/// Categories of collections.
 #pragma once
 
 #include <EditorModel/Collection.h>
@@ -9,19 +9,19 @@
 
 namespace EditorCollection {
 
-/// The categories that a host gives its collections. Any thread may ask.
+/// The categories of the host's collections. Thread-safe.
 class EDITORUTIL_EXPORT CategoriesConfig
 {
 public:
     CategoriesConfig() = delete;
 
-    /// What a category that an item brings with it is to be in that collection: a theme, behind those that are there.
+    /// The kind and position of a category that an item adds to the collection: thematic, after the existing ones.
     static CategoryInfo thematicCategoryInfo(ICollection const * collection);
 
-    /// The name of the category that a collection files the user's own items under; empty when it has none.
+    /// The category of the user's own items in a collection; empty if there is none.
     /// Unless the host says otherwise, "Luts" alone has one, "category_user".
     static QString userCategory(QString const & collectionName);
-    /// Sets that name for the whole process; an empty one leaves the collection without.
+    /// Sets that category for the whole process; an empty name removes it.
     static void setUserCategory(QString const & collectionName, QString const & category);
 };
 

@@ -12,25 +12,24 @@
 
 namespace EditorCollection {
 
-/// Owns collections and makes them known to `CollectionProvider` for as long as it lives. All operations may be called
-/// from any thread.
+/// Owns collections and registers them with `CollectionProvider` for its lifetime. Thread-safe.
 class EDITORUTIL_EXPORT CollectionHolder
 {
 public:
     CollectionHolder();
-    /// Drops the holder's loads before the collections go, so that callbacks may use them. Must not run inside such a
-    /// callback.
+    /// Drops the holder's loads before it destroys the collections, so that callbacks may use them. Must not run inside
+    /// such a callback.
     virtual ~CollectionHolder();
     CollectionHolder(CollectionHolder const &) = delete;
     CollectionHolder & operator=(CollectionHolder const &) = delete;
 
-    /// Creates an empty collection. Does nothing when this holder has one of that name.
+    /// Creates an empty collection, unless this holder has one of that name.
     void registerCollection(QString const & name);
 
     /// This holder's collection of that name; null when it has none.
     ICollection * collection(QString const & name) const;
 
-    /// Has the host's item storage load items on behalf of this holder, see `IItemStorage::loadItems`. Throws
+    /// Loads items from the host's storage, see `IItemStorage::loadItems`. Throws
     /// `std::logic_error` when the host has set no storage.
     /// @param callback  not called any more once the holder has dropped its loads
     void loadItems(QString const & path, QString const & collectionName, ItemCallback callback);

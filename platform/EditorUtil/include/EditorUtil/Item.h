@@ -14,8 +14,8 @@
 
 namespace EditorCollection {
 
-/// A new item that carries `effect`, which must not be null. The effect belongs to the storage beside the item until
-/// `releaseAll()`, and to the item afterwards; so whether the result is kept or dropped, it is deleted once.
+/// A new item of `effect`, which must not be null. The storage in the result owns the effect until `releaseAll()`, then
+/// the item does, so it is deleted exactly once whether the result is kept or dropped.
 /// @param file  what the item's `file()` returns
 EDITORUTIL_EXPORT serialize_ptr<IItem> makeItem(
     std::unique_ptr<Effect::Object> effect, std::set<QString> categories = {}, std::string file = {});

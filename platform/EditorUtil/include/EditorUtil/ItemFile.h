@@ -38,7 +38,7 @@ EDITORUTIL_EXPORT serialize_ptr<IItem> parseItem(
     std::string_view text, std::string const & folder, std::string file = {});
 
 /// Writes an item to the file of that name in a folder, which is made when it is missing: whole or not at all. A
-/// resource path that leads into the folder is written relative to it. Throws `std::runtime_error` that tells the path
+/// resource path that leads into the folder is written relative to it. Throws `std::runtime_error` with the path
 /// and the reason.
 /// @param name  the file's without the suffix; not empty, without a slash or a NUL
 EDITORUTIL_EXPORT void storeItem(QString const & folder, QString const & name, Effect::Object const & effect,

@@ -21,7 +21,7 @@ namespace EditorCollection {
 /// so on. Callbacks run on any of the threads, and never two at once.
 ///
 /// A file that cannot be read, and a folder that cannot be listed, is reported in its turn with one line in the log, at
-/// severity ERROR, that tells the path and the reason; the other items are not affected. What a callback throws is
+/// severity ERROR, with the path and the reason; the other items are not affected. Exceptions of a callback are
 /// reported the same way. The rest of a load whose callback is no longer wanted is skipped.
 ///
 /// All operations may be called from any thread. Callbacks may start and drop loads.

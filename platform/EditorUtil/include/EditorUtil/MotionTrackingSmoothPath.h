@@ -1,5 +1,5 @@
 /// @file
-/// The way of a tracked point between the times at which it was tracked.
+/// Interpolated path of a tracked point.
 #pragma once
 
 #include <functional>
@@ -23,15 +23,15 @@ namespace MotionTracking {
 /// path goes through every tracked point, has a steady speed there, turns nowhere else, never leaves the range between
 /// two neighbouring points, and moves at constant speed where the points do.
 ///
-/// The path copies what it needs from the track and never changes: any number of threads may ask it.
+/// The path copies the points of the track and is immutable, so threads can share it.
 class EDITORUTIL_EXPORT MotionTrackingSmoothPath
 {
 public:
     /// Chooses the point of a frame.
     using Accessor = std::function<QPointF(TimedFrame const &)>;
 
-    /// A path over the frames of `data`, where null is as good as no frames. `accessor` is called once per frame, in
-    /// order, and must answer finite coordinates.
+    /// A path over the frames of `data`; null counts as no frames. `accessor` is called once per frame, in order, and
+    /// must return finite coordinates.
     MotionTrackingSmoothPath(std::shared_ptr<Data const> const & data, Accessor const & accessor);
 
     /// The point at `time`, or nothing before the first and after the last frame. Its cost grows with the logarithm of

@@ -14,7 +14,7 @@ namespace FS {
 /// The absolute, cleaned form of `path`, relative paths being below the working folder. An empty path stays empty.
 FILESYSTEM_EXPORT QString absolutePath(QString const & path);
 
-/// Whether a file or folder stands at `path`. An empty path does not exist.
+/// Whether a file or folder exists at `path`. An empty path does not exist.
 FILESYSTEM_EXPORT bool exists(QString const & path);
 
 /// Joins the non-empty `components` with single slashes, then appends `suffix`, such as ".png", as it is.

@@ -15,7 +15,7 @@ using Color = std::array<float, 3>;
 /// A point of a curve.
 struct Knot
 {
-    float input = 0;  ///< where the knot stands
+    float input = 0;  ///< position of the knot
     float output = 0; ///< what the curve gives there
 };
 
@@ -24,7 +24,7 @@ struct Knot
 using Curve = std::vector<Knot>;
 
 /// A lookup table, as a file has it. A colour passes through @ref shaper, is clamped to the domain, and is then looked
-/// up in a regular grid of @ref entries that spans the domain: the first entry along an axis stands at its lower end,
+/// up in a regular grid of @ref entries that spans the domain: the first entry along an axis is at its lower end,
 /// the last at its upper end.
 ///
 /// Plain data without a lock: share it once it is filled and no longer changed. Everything in a table that came out of
@@ -59,7 +59,7 @@ struct LUTTable
                static_cast<std::size_t>(size[2]);
     }
 
-    /// Where in @ref entries the colour at a grid point stands. The indices count from 0.
+    /// The index in @ref entries of the colour at a grid point. Indices count from 0.
     std::size_t Index(int red, int green, int blue) const
     {
         auto const at = [](int index) { return static_cast<std::size_t>(index); };

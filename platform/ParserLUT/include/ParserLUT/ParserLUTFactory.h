@@ -11,7 +11,7 @@
 
 namespace Quoril::Proc::LUT {
 
-/// What the names of files in the formats of `ParserLUTFactory` end with. The format itself is told by the text.
+/// The suffixes of files in the formats of `ParserLUTFactory`. The format itself is recognised by the text.
 inline constexpr std::array<char const *, 4> fileSuffixes{".cube", ".3dl", ".spi3d", ".csp"};
 
 /// Finds the parser of a text.
@@ -20,7 +20,7 @@ class PARSERLUT_EXPORT ParserLUTFactory
 public:
     ParserLUTFactory() = delete;
 
-    /// The parser of the format that @p text is in, told by how the text begins: "cube", "3dl", "spi3d" or "csp".
+    /// The parser for the format of @p text, which is recognised by its beginning: "cube", "3dl", "spi3d" or "csp".
     /// Blank lines and comments ahead, and a UTF-8 byte order mark, do not matter. That there is a parser does not mean
     /// that the text is a whole table.
     /// @return null if the text begins like none of the formats

@@ -10,7 +10,7 @@ struct ColorF
     float red = 0;   ///< from 0 to 1
     float green = 0; ///< from 0 to 1
     float blue = 0;  ///< from 0 to 1
-    float alpha = 0; ///< from 0, not to be seen, to 1
+    float alpha = 0; ///< from 0, transparent, to 1, opaque
 
     friend bool operator==(ColorF const & a, ColorF const & b)
     {

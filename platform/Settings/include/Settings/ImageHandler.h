@@ -6,8 +6,8 @@
 
 namespace Quoril::Proc {
 
-/// Where the pixels of an image lie. The record does not own them: derive from it what keeps them alive, and share that
-/// as std::shared_ptr<ImageHandler const>. A default record is an image without pixels.
+/// The pixels of an image, not owned: derive a class that keeps them alive, and share it as
+/// std::shared_ptr<ImageHandler const>. A default record is an image without pixels.
 struct ImageHandler
 {
     std::int32_t width = 0;                ///< in pixels

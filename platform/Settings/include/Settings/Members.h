@@ -1,5 +1,5 @@
 /// @file
-/// How a settings class declares its members:
+/// Macros that declare the members of a settings class:
 /// @code
 /// class SETTINGS_EXPORT SettingsEffectTwirl final : public Settings
 /// {
@@ -29,7 +29,7 @@
 namespace Quoril::Proc {
 
 /// @cond
-/// Holds a value that has no equality of its own: copies share it and are equal, two that were made apart are not.
+/// Holds a value without operator==: copies share it and are equal, separately constructed ones are not.
 template <class T> class Shared
 {
 public:
@@ -45,7 +45,7 @@ private:
     std::shared_ptr<T const> m_value;
 };
 
-/// How an argument is kept: as it is, but functions, which have no equality, by a shared handle.
+/// The stored type of an argument: the argument's own, but a shared handle for functions, which have no operator==.
 template <class T> struct KeptAs
 {
     using Type = T;
@@ -55,7 +55,7 @@ template <class Signature> struct KeptAs<std::vector<std::function<Signature>>>
     using Type = Shared<std::vector<std::function<Signature>>>;
 };
 
-/// The arguments that one setter was last given, and whether it was called at all.
+/// The arguments of the last call of a setter, if it was called.
 template <class... Parameters> struct Setting
 {
     using Arguments = std::tuple<typename KeptAs<std::decay_t<Parameters>>::Type...>;
@@ -102,8 +102,8 @@ private:                                                                        
     MemberTable const & members() const override;                                                                      \
     SETTINGS_BASE(Class)
 
-/// The setter `Set<Name>` with parameters of the types that follow the name, and the getter `Get<Name>`, which answers
-/// value-initialised values until the setter was called.
+/// The setter `Set<Name>` with parameters of the types that follow the name, and the getter `Get<Name>`, which returns
+/// value-initialised values until the setter is called.
 #define SETTING(Name, ...)                                                                                             \
     void Set##Name(SETTINGS_PARAMETERS(__VA_ARGS__))                                                                   \
     {                                                                                                                  \

@@ -13,8 +13,8 @@ namespace Quoril::Proc {
 
 class MemberTable;
 
-/// What one processing step of the render engine is told. A settings object keeps what its setters were given; a
-/// setting that was never given, and a public data member left as it was constructed, stand for the engine's default.
+/// Parameters of one processing step of the render engine. A setting that was not set, and a public data member that
+/// was not changed, mean the engine's default.
 ///
 /// Settings classes are values: copyable, and comparable through IsEqualTo. One object must not be used by two threads
 /// at the same time while one of them writes.
@@ -23,7 +23,7 @@ class SETTINGS_EXPORT Settings
 public:
     virtual ~Settings();
 
-    /// A copy with the dynamic type of this object.
+    /// A copy of the dynamic type.
     virtual std::unique_ptr<Settings> Clone() const = 0;
 
     /// The class's name without its namespace.
@@ -37,7 +37,7 @@ public:
     virtual bool IsEmpty() const;
 
     /// Takes settings and public data members by name: "Scale" for SetScale, a list where a setter takes several
-    /// arguments. Names that this class does not know are passed over.
+    /// arguments. Unknown names are ignored.
     /// @throws std::invalid_argument when a value has the wrong form, or belongs to a member that has none (images,
     /// tables, functions); the object is then as it was.
     virtual void Deserialize(Record const & record);
@@ -46,22 +46,22 @@ public:
     Record GetFields() const;
 
 protected:
-    // Addresses are used again, so that a record must not outlive its object. It is dropped with the object, and on
-    // construction too, in case another thread than the tracing one destroyed the last object that lived here.
+    // Addresses are reused, so a trace must not keep the record of a destroyed object. It is dropped by the destructor,
+    // and by the constructor in case a thread without the trace destroyed the previous object at this address.
     Settings() noexcept
     {
         if (isAnyTraceOpen()) {
             dropRecord();
         }
     }
-    /// A trace's record goes along.
+    /// Moves or copies the record of a trace as well.
     Settings(Settings const & other)
     {
         if (isAnyTraceOpen()) {
             copyRecord(other);
         }
     }
-    /// A trace's record goes along.
+    /// Moves or copies the record of a trace as well.
     Settings & operator=(Settings const & other)
     {
         if (isAnyTraceOpen()) {
@@ -70,7 +70,7 @@ protected:
         return *this;
     }
 
-    /// For setters: tells an open trace of this thread that the setting of that name was just given.
+    /// For setters: records the call in this thread's trace, if one is open.
     void traceCall(char const * setting) const
     {
         if (isAnyTraceOpen()) {
@@ -89,7 +89,7 @@ private:
     void copyRecord(Settings const & source) const;
     void dropRecord() const noexcept;
 
-    // Of all threads: a setter looks no further while it is zero.
+    // Number of traces in all threads; zero lets setters skip the lookup.
     static std::atomic<int> s_openTraces;
 };
 

@@ -1,5 +1,5 @@
 /// @file
-/// Records what settings objects are told.
+/// Records the setter calls of settings objects.
 #pragma once
 
 #include <cstdint>
@@ -18,7 +18,7 @@ class TraceRecorder;
 /// While a Trace is open, the setter calls that its thread makes are recorded, per settings object, in the order made.
 /// Writes to public data members are not calls and are read from the object instead (Settings::GetFields).
 ///
-/// Traces nest: each tells the calls made since it was opened. A trace is opened, asked and closed on one thread. The
+/// Traces nest: each has the calls made since it was opened. A trace is opened, read and closed on one thread. The
 /// record of a settings object goes along with its copies and is forgotten with the object. While no trace is open, a
 /// setter pays one branch.
 class SETTINGS_EXPORT Trace

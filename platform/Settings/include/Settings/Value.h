@@ -57,7 +57,7 @@ public:
     /// An object's value under `key`; null when there is none, and for what is no object.
     Value const * find(std::string const & key) const;
 
-    /// For messages and for people, in the manner of JSON, with numbers in the shortest form that tells them apart.
+    /// For messages and for people, in the manner of JSON, with numbers in the shortest form that is exact.
     std::string toString() const;
 
     friend bool operator==(Value const & a, Value const & b) { return a.m_data == b.m_data; }
