@@ -10,6 +10,7 @@
 #include <string>
 
 #include <EditorModel/EffectArchive.h>
+#include <effects/Holder.h>
 
 #include <benchmark/benchmark.h>
 

@@ -5,6 +5,7 @@
 #include <effects/Base.h>
 #include <effects/CleanUp.h>
 #include <effects/ColorCorrection.h>
+#include <effects/Composition.h>
 #include <effects/Dynamics.h>
 #include <effects/Equalizer.h>
 #include <effects/Holder.h>
