@@ -52,7 +52,7 @@ PROGRAMS = {
     "SchemaProofTests": [],
     "StockTests": ["tests/stock/StockTest.cpp"],
 }
-SHARED_LIBRARY = "lib/libEditorEffectsSettings.so"
+SHARED_LIBRARIES = ["lib/libEditorEffectsSettings.so", "lib/libEditorEffects.so"]
 
 
 def run(command, **options):
@@ -128,6 +128,13 @@ class Copy:
         with concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as pool:
             self.replaced.update(pool.map(self.make, outputs))
 
+    def link_shared(self, name):
+        """Links a shared library anew, and gives it the name by which programs load it."""
+        shared = next(output for output in self.commands if output.startswith(f"{name}."))
+        self.rebuild([shared])
+        made = pathlib.Path(self.replaced[shared])
+        (made.parent / (pathlib.Path(name).name + ".1")).symlink_to(made.name)
+
     def compile(self, library, programs):
         outputs = [self.output_of(source, None) for source in library]
         if library:
@@ -135,10 +142,8 @@ class Copy:
         outputs += [self.output_of(source, program) for program, sources in programs.items() for source in sources]
         self.rebuild(outputs)
         if library:
-            shared = next(output for output in self.commands if output.startswith(SHARED_LIBRARY))
-            self.rebuild([shared])
-            made = pathlib.Path(self.replaced[shared])
-            (made.parent / (pathlib.Path(SHARED_LIBRARY).name + ".1")).symlink_to(made.name)
+            for name in SHARED_LIBRARIES:
+                self.link_shared(name)
         self.rebuild([f"bin/tests/{program}" for program in programs])
 
     def environment(self, **more):
