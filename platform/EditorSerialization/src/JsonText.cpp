@@ -92,9 +92,8 @@ bool ObjectReader::metaMember(std::string_view & className)
     bool isAscii = false;
     if (takeExactly("\"$meta\":{\"class\":\"")) // without white space, as it is written here
         return stringRest(className, isAscii) && take('}');
-    std::string_view key;
-    return string(key) && key == MetaDetails::s_meta && take(':') && open('{') && string(key) &&
-           key == MetaDetails::s_class_name && take(':') && string(className) && close('}');
+    return token() && takeExactly("\"$meta\"") && take(':') && open('{') && token() && takeExactly("\"class\"") &&
+           take(':') && string(className, isAscii) && close('}');
 }
 
 bool ObjectReader::pointed(std::unique_ptr<ISerializable> & object)

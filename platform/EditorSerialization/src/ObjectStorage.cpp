@@ -1,26 +1,20 @@
 #include <EditorSerialization/ObjectStorage.h>
 
-#include <algorithm>
 #include <utility>
 #include <vector>
 
-#include <EditorSerialization/ObjectTracker.h>
-
 namespace Serialize {
 
+// Not a tracker: that would walk the objects, which own themselves what they refer to.
 struct ObjectStorage::State
 {
-    ObjectTracker tracker;
+    std::vector<std::unique_ptr<ISerializable>> objects;
     std::vector<std::function<void()>> released;
 };
 
 ObjectStorage::ObjectStorage() noexcept = default;
 
-ObjectStorage::~ObjectStorage()
-{
-    if (m_state)
-        m_state->tracker.releaseAll();
-}
+ObjectStorage::~ObjectStorage() = default;
 
 ObjectStorage::ObjectStorage(ObjectStorage && other) noexcept = default;
 
@@ -32,23 +26,21 @@ ObjectStorage & ObjectStorage::operator=(ObjectStorage && other) noexcept
 
 ISerializable * ObjectStorage::add(std::unique_ptr<ISerializable> object, std::function<void()> released)
 {
-    ISerializable const * const root = object.get();
-    if (!root)
+    if (!object)
         return nullptr;
     if (!m_state)
         m_state = std::make_unique<State>();
     if (released)
         m_state->released.push_back(std::move(released));
-    // Not walked, since the object itself owns what it refers to.
-    m_state->tracker.own(root);
-    return object.release();
+    return m_state->objects.emplace_back(std::move(object)).get();
 }
 
 void ObjectStorage::releaseAll()
 {
     if (!m_state)
         return;
-    m_state->tracker.clear();
+    for (auto & object : std::exchange(m_state->objects, {}))
+        static_cast<void>(object.release()); // whoever keeps it deletes it
     // Moved out first, so that each callback is called once, whatever it does.
     for (auto const & callback : std::exchange(m_state->released, {}))
         callback();
@@ -56,11 +48,7 @@ void ObjectStorage::releaseAll()
 
 std::size_t ObjectStorage::size() const
 {
-    if (!m_state)
-        return 0;
-    auto const & entries = m_state->tracker.entries();
-    return static_cast<std::size_t>(std::count_if(
-        entries.begin(), entries.end(), [](auto const & entry) { return entry.second.release != nullptr; }));
+    return m_state ? m_state->objects.size() : 0;
 }
 
 } // namespace Serialize
