@@ -2,7 +2,8 @@
 #include <sstream>
 
 #include <EditorModel/EffectArchive.h>
-#include <effects/Effects.h>
+#include <effects/Composition.h>
+#include <effects/Geometry.h>
 
 #include <tests/support/Folder.h>
 

@@ -1,5 +1,4 @@
 // effectctl pack and unpack
-#include <effects/Effects.h>
 
 #include <tests/support/Folder.h>
 

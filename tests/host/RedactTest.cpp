@@ -1,6 +1,6 @@
 // effectctl redact
 #include <EditorModel/EffectArchive.h>
-#include <effects/Effects.h>
+#include <effects/Shaders.h>
 
 #include <tests/support/Folder.h>
 

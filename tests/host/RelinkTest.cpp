@@ -1,6 +1,6 @@
 // effectctl relink
 #include <EditorModel/EffectArchive.h>
-#include <effects/Effects.h>
+#include <effects/Shaders.h>
 #include <inspect/Hash.h>
 
 #include <tests/support/Folder.h>

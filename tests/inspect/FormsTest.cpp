@@ -1,7 +1,8 @@
 #include <inspect/Forms.h>
 
 #include <EditorModel/EffectArchive.h>
-#include <effects/Effects.h>
+#include <effects/Composition.h>
+#include <effects/Geometry.h>
 
 #include <tests/support/Folder.h>
 

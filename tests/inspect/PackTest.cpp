@@ -7,7 +7,10 @@
 
 #include <EditorModel/EffectArchive.h>
 #include <EditorSettings/Settings.h>
-#include <effects/Effects.h>
+#include <effects/Geometry.h>
+#include <effects/Holder.h>
+#include <effects/Mask.h>
+#include <effects/Shaders.h>
 #include <inspect/Hash.h>
 
 #include <tests/support/Folder.h>

@@ -2,7 +2,9 @@
 
 #include <EditorModel/EffectArchive.h>
 #include <EditorModel/EffectDocument.h>
-#include <effects/Effects.h>
+#include <effects/Geometry.h>
+#include <effects/Mask.h>
+#include <effects/Shaders.h>
 
 #include <tests/support/Folder.h>
 

@@ -1,6 +1,9 @@
 #include <inspect/References.h>
 
-#include <effects/Effects.h>
+#include <effects/Composition.h>
+#include <effects/Geometry.h>
+#include <effects/Holder.h>
+#include <effects/Mask.h>
 
 #include <tests/support/Folder.h>
 

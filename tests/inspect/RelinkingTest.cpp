@@ -3,7 +3,8 @@
 #include <filesystem>
 
 #include <EditorModel/EffectArchive.h>
-#include <effects/Effects.h>
+#include <effects/Holder.h>
+#include <effects/Shaders.h>
 #include <inspect/Hash.h>
 
 #include <tests/support/Folder.h>
