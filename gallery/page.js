@@ -436,6 +436,7 @@
         requestAnimationFrame(animate);
         addEventListener('hashchange', follow);
         follow();
+        performance.mark('ready');
         document.body.dataset.ready = 'true';
     }
 

@@ -50,9 +50,14 @@ def test_the_interpreter_goes_on_while_a_file_is_read():
     counter.start()
 
     def measured(name, work):
-        before = steps
-        result = work()
-        during[name] = steps - before
+        # With the lock held the other thread gets a turn or two between the calls. A busy machine may give it no more
+        # during one call, but not during ten.
+        for _ in range(10):
+            before = steps
+            result = work()
+            during[name] = max(during.get(name, 0), steps - before)
+            if during[name] > 10:
+                break
         return result
 
     try:
@@ -64,7 +69,7 @@ def test_the_interpreter_goes_on_while_a_file_is_read():
     finally:
         isDone.set()
         counter.join()
-    assert all(count > 20 for count in during.values()), during
+    assert all(count > 10 for count in during.values()), during
 
 
 def test_a_change_waits_for_a_save_in_another_thread():
