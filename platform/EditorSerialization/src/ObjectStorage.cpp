@@ -40,7 +40,7 @@ void ObjectStorage::releaseAll()
     if (!m_state)
         return;
     for (auto & object : std::exchange(m_state->objects, {}))
-        static_cast<void>(object.release()); // whoever keeps it deletes it
+        static_cast<void>(object.release()); // its new owner deletes it
     // Moved out first, so that each callback is called once, whatever it does.
     for (auto const & callback : std::exchange(m_state->released, {}))
         callback();
