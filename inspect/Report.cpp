@@ -28,12 +28,18 @@ template <class Change> json withNumbers(json value, Change const & change)
     return value;
 }
 
+/// The integer by one more or less; beyond the last one come those of the other sign.
+json nextInteger(json const & number, int by)
+{
+    return static_cast<std::int64_t>(number.get<std::uint64_t>() + static_cast<std::uint64_t>(by));
+}
+
 /// A number so close to another one that single precision has one value for both: the next integer, or a number that
 /// differs in the last bits.
 json neighbour(json const & number, int direction)
 {
     if (number.is_number_integer())
-        return number.get<std::int64_t>() + direction;
+        return nextInteger(number, direction);
     constexpr double bits = 0x1p-50;
     return number.get<double>() * (1 + direction * bits);
 }
@@ -41,7 +47,8 @@ json neighbour(json const & number, int direction)
 json inSinglePrecision(json const & number)
 {
     double const narrow = static_cast<double>(static_cast<float>(number.get<double>()));
-    return number.is_number_integer() ? json(static_cast<std::int64_t>(narrow)) : json(narrow);
+    bool const isInteger = number.is_number_integer() && std::abs(narrow) < 0x1p63;
+    return isInteger ? json(static_cast<std::int64_t>(narrow)) : json(narrow);
 }
 
 class Reporter
@@ -124,7 +131,7 @@ private:
 
     static json shifted(json const & number, int by)
     {
-        return number.is_number_integer() ? json(number.get<std::int64_t>() + by) : json(number.get<double>() + by);
+        return number.is_number_integer() ? nextInteger(number, by) : json(number.get<double>() + by);
     }
 
     /// A number on which the settings do not depend where it is. Either they do not anywhere, as long as the other

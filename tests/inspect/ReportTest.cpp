@@ -1,5 +1,8 @@
 #include <inspect/Report.h>
 
+#include <cstdint>
+#include <limits>
+
 #include <effects/CleanUp.h>
 #include <effects/ColorCorrection.h>
 #include <effects/Geometry.h>
@@ -48,6 +51,15 @@ TEST_F(Report, DoublesStayAsTheyAre)
     Effect::ManualEnhance effect;
     effect.gamma = 0.1;
     EXPECT_EQ(outcome(effect, "/gamma"), json({"exact", 0.1, 0.1}));
+}
+
+TEST_F(Report, TheFirstAndTheLastIntegerHaveNoNeighbourBeyond)
+{
+    Effect::AudioReverb effect;
+    for (auto const number : {std::numeric_limits<std::int64_t>::max(), std::numeric_limits<std::int64_t>::min()}) {
+        effect.duration = number;
+        EXPECT_EQ(outcome(effect, "/duration"), json({"exact", number, number}));
+    }
 }
 
 TEST_F(Report, NumbersThatAreNoChoiceAreReplaced)
