@@ -4,41 +4,25 @@
 
 #include <string>
 
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
-#include <QTemporaryDir>
+#include <support/Folder.h>
 
-#include <gtest/gtest.h>
+#include <QString>
 
 namespace Testing {
 
-/// Gone at the end, with all that is in it.
+/// A `Folder` whose names are texts of Qt, as the arguments of the program are here.
 class TemporaryFolder
 {
 public:
-    /// Of a file or a folder in it.
-    QString path(QString const & name) const { return m_folder.filePath(name); }
-
-    /// Writes a file anew, the folder that it is in included, and returns its path.
+    QString path(QString const & name) const { return QString::fromStdString(m_folder.path(name.toStdString())); }
     QString write(QString const & name, std::string const & bytes) const
     {
-        EXPECT_TRUE(QDir().mkpath(QFileInfo(path(name)).path()));
-        QFile file(path(name));
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly)) << name.toStdString();
-        EXPECT_EQ(file.write(bytes.data(), static_cast<qint64>(bytes.size())), static_cast<qint64>(bytes.size()));
-        return file.fileName();
+        return QString::fromStdString(m_folder.write(name.toStdString(), bytes));
     }
-
-    std::string read(QString const & name) const
-    {
-        QFile file(path(name));
-        EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << name.toStdString();
-        return file.readAll().toStdString();
-    }
+    std::string read(QString const & name) const { return m_folder.read(name.toStdString()); }
 
 private:
-    QTemporaryDir m_folder;
+    Folder m_folder;
 };
 
 } // namespace Testing
